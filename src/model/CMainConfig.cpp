@@ -1,0 +1,3 @@
+#include "model/CMainConfig.h"
+
+CMainConfig gMainConfig;

@@ -1,0 +1,29 @@
+#pragma once
+// A rule: when a source does something, perform these actions. A new record is
+// all zero, False and empty, and has no action collection until one is given.
+#include <memory>
+#include <QString>
+#include <QtGlobal>
+#include "rules/CAction.h"
+#include "support/Collection.h"
+
+class CEvent {
+public:
+    qint16 m_iInterType = 0;   // interaction type 0 to 3
+    qint16 m_iSense = 0;       // 0 Up, 1 Down, 2 Any
+    qint16 m_iSourceType = 0;  // source type number, 0 to 10
+    qint16 m_iSource = 0;      // device, 0-based; for Automatic the moment
+    qint16 m_iItem = 0;        // what of that device; -1 when none
+    QString m_strVariable;     // variable, OSC address or Flash variable of the source
+    QString m_strVal1;
+    QString m_strVal2;
+    qint16 m_iChannel = 0;     // MIDI channel as a list position, -1 when none
+    QString m_strMin;
+    QString m_strMax;
+    bool m_bClip = false;
+    bool m_bEnabled = false;
+    QString m_strRemarks;
+    QString m_strGroup;        // the rule's label
+    std::shared_ptr<Collection<CAction>> m_MsgOut;   // the actions in order; null until set
+    QString m_strEvent;        // description for people, made when the rule is accepted
+};
