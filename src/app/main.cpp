@@ -1,7 +1,16 @@
+// QEL Setup: the authoring tool of a live multimedia performance.
 #include <QApplication>
+#include "mainwindow/FormInitial.h"
 
 int main(int argc, char** argv)
 {
     QApplication app(argc, argv);
-    return 0;
+    QApplication::setApplicationName(QStringLiteral("QEL Setup"));
+    QApplication::setOrganizationName(QStringLiteral("QEL"));
+    QApplication::setApplicationVersion(QStringLiteral("4.0"));
+
+    FormInitial window;
+    window.Form_Load();
+    window.show();
+    return app.exec();
 }

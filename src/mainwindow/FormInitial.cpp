@@ -1,0 +1,855 @@
+#include "mainwindow/FormInitial.h"
+#include <QApplication>
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QDir>
+#include <QFileInfo>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QStandardPaths>
+#include <QThread>
+#include <QTreeWidget>
+#include "files/ModuleSaveOpen.h"
+#include "mainwindow/FormEntry.h"
+#include "mainwindow/FormName.h"
+#include "model/CArduinoData.h"
+#include "model/CExoData.h"
+#include "model/CMainConfig.h"
+#include "model/CScene.h"
+#include "model/ModuleGlobals.h"
+#include "model/SceneLists.h"
+#include "rules/ModuleEvents.h"
+#include "rules/ModuleGlobalEvents.h"
+#include "rules/ModuleRuleDisplay.h"
+#include "support/Convert.h"
+#include "support/ModuleGUI.h"
+#include "support/NumberFormat.h"
+#include "support/Platform.h"
+#include "support/RuntimeError.h"
+
+bool bPanelLocked = false;
+
+namespace {
+
+// Positions in the old units: 15 twips to a pixel.
+constexpr int twips(int t) { return t / 15; }
+
+template <typename W>
+W* named(W* widget, const QString& name)
+{
+    widget->setObjectName(name);
+    return widget;
+}
+
+QString arrayName(const QString& name, int index) { return QStringLiteral("%1(%2)").arg(name).arg(index); }
+
+} // namespace
+
+QString AutoSaveRoot()
+{
+    const QString appPath = AppPath();
+    if (QFileInfo(appPath).isWritable())
+        return appPath;
+    const QString data = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    QDir().mkpath(data);
+    return QDir::toNativeSeparators(data);
+}
+
+FormInitial::FormInitial(QWidget* parent) : QMainWindow(parent)
+{
+    setObjectName(QStringLiteral("FormInitial"));
+    setWindowTitle(QStringLiteral("QEL Setup v4.0"));
+    auto* area = new QWidget(this);
+    area->setObjectName(QStringLiteral("FormArea"));
+    setCentralWidget(area);
+
+    buildMenus();
+    TextName = named(new QLabel(QStringLiteral("QEL New"), area), QStringLiteral("TextName"));
+    QFont big = TextName->font();
+    big.setPointSize(16);
+    big.setBold(true);
+    TextName->setFont(big);
+    CommandConn = named(new QPushButton(QStringLiteral("Rules"), area), QStringLiteral("CommandConn"));
+    CommandConn->setToolTip(QStringLiteral("Rules Configuration"));
+    CommandRules = named(new QPushButton(QStringLiteral("Devices"), area), QStringLiteral("CommandRules"));
+    CommandRules->setToolTip(QStringLiteral("Devices Configuration"));
+
+    buildRuleView(area);
+    buildDevicePanel(area);
+    connectHandlers();
+    setMinimumSize(twips(11300), twips(5775));
+    resize(twips(14400), twips(10775));
+    layoutControls();
+}
+
+void FormInitial::buildMenus()
+{
+    QMenuBar* bar = menuBar();
+    auto menu = [&](QMenu* parentMenu, const QString& name, const QString& caption) {
+        QMenu* m = parentMenu ? parentMenu->addMenu(caption) : bar->addMenu(caption);
+        m->setObjectName(name);
+        return m;
+    };
+    auto entry = [&](QMenu* m, const QString& name, const QString& caption) {
+        QAction* a = m->addAction(caption);
+        a->setObjectName(name);
+        return a;
+    };
+    File = menu(nullptr, QStringLiteral("File"), QStringLiteral("&File"));
+    New = entry(File, QStringLiteral("New"), QStringLiteral("&New"));
+    Open = entry(File, QStringLiteral("Open"), QStringLiteral("&Open"));
+    Save = entry(File, QStringLiteral("Save"), QStringLiteral("&Save"));
+    SaveAs = entry(File, QStringLiteral("SaveAs"), QStringLiteral("Save &As"));
+    Print = entry(File, QStringLiteral("Print"), QStringLiteral("&Print"));
+    File->addSeparator();
+    Quit = entry(File, QStringLiteral("Quit"), QStringLiteral("&Quit"));
+    Edit = menu(nullptr, QStringLiteral("Edit"), QStringLiteral("&Edit"));
+    Cut = entry(Edit, QStringLiteral("Cut"), QStringLiteral("Cut"));
+    Copy = entry(Edit, QStringLiteral("Copy"), QStringLiteral("Copy"));
+    Paste = entry(Edit, QStringLiteral("Paste"), QStringLiteral("Paste"));
+    Setup = menu(nullptr, QStringLiteral("Setup"), QStringLiteral("&Setup"));
+    TheName = entry(Setup, QStringLiteral("TheName"), QStringLiteral("&Name"));
+    ScenesParts = menu(Setup, QStringLiteral("ScenesParts"), QStringLiteral("&Scenes"));
+    AddScene = entry(ScenesParts, QStringLiteral("AddScene"), QStringLiteral("&Add"));
+    EditScene = entry(ScenesParts, QStringLiteral("EditScene"), QStringLiteral("&Edit"));
+    Remove = entry(ScenesParts, QStringLiteral("Remove"), QStringLiteral("&Remove"));
+    Help = menu(nullptr, QStringLiteral("Help"), QStringLiteral("&Help"));
+    About = entry(Help, QStringLiteral("About"), QStringLiteral("&About QEL Setup v.4.0"));
+
+    New->setShortcut(QKeySequence::New);
+    Open->setShortcut(QKeySequence::Open);
+    Save->setShortcut(QKeySequence::Save);
+    Quit->setShortcut(QKeySequence::Quit);
+    // Commands still to come are shown but not offered.
+    for (QAction* a : {Print, Cut, Copy, Paste, AddScene, EditScene, Remove})
+        a->setEnabled(false);
+}
+
+void FormInitial::buildRuleView(QWidget* area)
+{
+    ListGlobalRules = named(new QListWidget(area), QStringLiteral("ListGlobalRules"));
+    ListMain2 = named(new QTreeWidget(area), QStringLiteral("ListMain2"));
+    ListMain2->setColumnCount(1);
+    ListMain2->setHeaderLabels({QStringLiteral("Scenes")});
+    ListMain2->setRootIsDecorated(false);
+    ListMain2->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    ListMain2->setStyleSheet(QStringLiteral("QTreeWidget#ListMain2 { background: #202020; }"));
+
+    CommandAddScene = named(new QPushButton(QStringLiteral("Add Scene"), area), QStringLiteral("CommandAddScene"));
+    CommandEdit = named(new QPushButton(QStringLiteral("Edit Scene/Subscene"), area), QStringLiteral("CommandEdit"));
+    CommandDelete = named(new QPushButton(QStringLiteral("Remove Scene/Subscene"), area), QStringLiteral("CommandDelete"));
+    CommandShowConfig = named(new QPushButton(QStringLiteral("Components && Ports"), area), QStringLiteral("CommandShowConfig"));
+    CommandUp = named(new QPushButton(QStringLiteral("\u25B2"), area), QStringLiteral("CommandUp"));
+    CommandDown = named(new QPushButton(QStringLiteral("\u25BC"), area), QStringLiteral("CommandDown"));
+    static const char* kColors[8] = {"#000000", "#0000FF", "#00FF00", "#00FFFF", "#FF0000", "#FF00FF", "#FFFF00", "#DDDDDD"};
+    for (int i = 0; i < 8; ++i) {
+        auto* b = named(new QPushButton(area), arrayName(QStringLiteral("CommandColor"), i));
+        b->setStyleSheet(QStringLiteral("background: %1;").arg(QLatin1String(kColors[i])));
+        CommandColor << b;
+    }
+    CommandBots = named(new QPushButton(QStringLiteral("Bots"), area), QStringLiteral("CommandBots"));
+
+    Label5 = named(new QLabel(QStringLiteral("Scene"), area), QStringLiteral("Label5"));
+    LabelNumScene = named(new QLabel(area), QStringLiteral("LabelNumScene"));
+    LabelName = named(new QLabel(area), QStringLiteral("LabelName"));
+    Label1 = named(new QLabel(QStringLiteral("Sources"), area), QStringLiteral("Label1"));
+    for (int i = 0; i < 9; ++i) {
+        auto* c = named(new QCheckBox(area), arrayName(QStringLiteral("CheckSource"), i));
+        c->setChecked(true);
+        c->hide();
+        CheckSource << c;
+    }
+    Label3 = named(new QLabel(QStringLiteral("Targets"), area), QStringLiteral("Label3"));
+    for (int i = 0; i < 6; ++i) {
+        auto* c = named(new QCheckBox(area), arrayName(QStringLiteral("CheckTarget"), i));
+        c->setChecked(true);
+        c->hide();
+        CheckTarget << c;
+    }
+    Label15 = named(new QLabel(QStringLiteral("Search label"), area), QStringLiteral("Label15"));
+    TextSearched = named(new QComboBox(area), QStringLiteral("TextSearched"));
+    TextSearched->setEditable(true);
+    TextSearched->setInsertPolicy(QComboBox::NoInsert);
+    CommandAdd = named(new QPushButton(QStringLiteral("Add rule"), area), QStringLiteral("CommandAdd"));
+    const QStringList filters = {QStringLiteral("QEL Interaction"), QStringLiteral("MIDI Interaction"),
+                                 QStringLiteral("Movies Interaction"), QStringLiteral("Arduino Interaction"),
+                                 QStringLiteral("OSC Interaction")};
+    for (int i = 0; i < filters.size(); ++i) {
+        auto* b = named(new QPushButton(filters[i].section(u' ', 0, 0), area), arrayName(QStringLiteral("CommandTargetsFilt"), i));
+        b->setToolTip(filters[i]);
+        CommandTargetsFilt << b;
+    }
+    ListEvents = named(new QTreeWidget(area), QStringLiteral("ListEvents"));
+    SetupRuleListColumns(ListEvents);
+    ListEvents->setRootIsDecorated(false);
+    ListEvents->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    const int widths[7] = {40, 60, 60, 50, 90, 140, 300};
+    for (int c = 0; c < 7; ++c)
+        ListEvents->setColumnWidth(c, widths[c]);
+}
+
+void FormInitial::buildDevicePanel(QWidget* area)
+{
+    struct Row {
+        const char* label;
+        const char* labelName;
+        const char* combo;
+        int max;
+        const char* button;
+        const char* caption;
+    };
+    static const Row kRows[8] = {
+        {"Number of Exoskeletons:", "Label8", "ComboNExos", 2, "ExoskeletonsCalibration", "Exos Config."},
+        {"Number of Joysticks:", "Label9", "ComboNTotems", 4, "CommandItems", "Joysticks Config."},
+        {"Number of OSC connections:", "Label10", "ComboNOSCs", 16, "CommandOSC", "OSC Config."},
+        {"Number of Arduinos:", "Label11", "ComboNArduinos", 16, "ArduinoConfig", "Arduino Config."},
+        {"Number of QEL Display Managers:", "Label12", "ComboNScreens", 8, "CommandScreen", "QDM Config."},
+        {"Number of Flash players:", "Label13", "ComboNFlash", 16, "CommandFlash", "Flash Config."},
+        {"Number of MIDI devices:", "Label14", "ComboNMIDI", 8, "CommandPorts", "MIDI Config."},
+        {"Number of video capture devices:", "Label16", "ComboNVideoCaps", 4, nullptr, nullptr},
+    };
+    for (const Row& row : kRows) {
+        DeviceLabels << named(new QLabel(QString::fromLatin1(row.label), area), QString::fromLatin1(row.labelName));
+        auto* combo = named(new QComboBox(area), QString::fromLatin1(row.combo));
+        for (int n = 0; n <= row.max; ++n)
+            combo->addItem(QString::number(n));
+        m_countCombos << combo;
+        if (row.button)
+            m_dialogButtons << named(new QPushButton(QString::fromLatin1(row.caption), area), QString::fromLatin1(row.button));
+    }
+    ComboNExos = m_countCombos[0];
+    ComboNTotems = m_countCombos[1];
+    ComboNOSCs = m_countCombos[2];
+    ComboNArduinos = m_countCombos[3];
+    ComboNScreens = m_countCombos[4];
+    ComboNFlash = m_countCombos[5];
+    ComboNMIDI = m_countCombos[6];
+    ComboNVideoCaps = m_countCombos[7];
+    ExoskeletonsCalibration = m_dialogButtons[0];
+    CommandItems = m_dialogButtons[1];
+    CommandOSC = m_dialogButtons[2];
+    ArduinoConfig = m_dialogButtons[3];
+    CommandScreen = m_dialogButtons[4];
+    CommandFlash = m_dialogButtons[5];
+    CommandPorts = m_dialogButtons[6];
+    LabelEvPerSec = named(new QLabel(QStringLiteral("Value Events per second:"), area), QStringLiteral("LabelEvPerSec"));
+    txtEvPerSec = named(new QLineEdit(area), QStringLiteral("txtEvPerSec"));
+    CommandTalpor = named(new QPushButton(QStringLiteral("Talpor Config."), area), QStringLiteral("CommandTalpor"));
+    CommandUnlock = named(new QPushButton(QStringLiteral("Lock panel"), area), QStringLiteral("CommandUnlock"));
+    CommandUnlock->setToolTip(QStringLiteral("The panel is free: click to lock it"));
+    CommandLock = named(new QPushButton(QStringLiteral("Unlock panel"), area), QStringLiteral("CommandLock"));
+    CommandLock->setToolTip(QStringLiteral("The panel is locked: click to free it"));
+    CommandLock->hide();
+}
+
+void FormInitial::connectHandlers()
+{
+    connect(New, &QAction::triggered, this, &FormInitial::New_Click);
+    connect(Open, &QAction::triggered, this, &FormInitial::Open_Click);
+    connect(Save, &QAction::triggered, this, &FormInitial::Save_Click);
+    connect(SaveAs, &QAction::triggered, this, &FormInitial::SaveAs_Click);
+    connect(Quit, &QAction::triggered, this, &FormInitial::Quit_Click);
+    connect(TheName, &QAction::triggered, this, &FormInitial::TheName_Click);
+    connect(About, &QAction::triggered, this, &FormInitial::About_Click);
+    connect(CommandConn, &QPushButton::clicked, this, &FormInitial::CommandConn_Click);
+    connect(CommandRules, &QPushButton::clicked, this, &FormInitial::CommandRules_Click);
+    connect(CommandUnlock, &QPushButton::clicked, this, &FormInitial::CommandUnlock_Click);
+    connect(CommandLock, &QPushButton::clicked, this, &FormInitial::CommandLock_Click);
+    connect(txtEvPerSec, &QLineEdit::textEdited, this, &FormInitial::txtEvPerSec_Change);
+    connect(ListMain2, &QTreeWidget::itemClicked, this, &FormInitial::ListMain2_Click);
+    connect(ListGlobalRules, &QListWidget::itemClicked, this, &FormInitial::ListGlobalRules_Click);
+    connect(TextSearched, &QComboBox::activated, this, &FormInitial::TextSearched_Change);
+    connect(TextSearched->lineEdit(), &QLineEdit::textEdited, this, &FormInitial::TextSearched_Change);
+
+    qint16* members[8] = {&gMainConfig.m_iNExos, &gMainConfig.m_iNTotems, &gMainConfig.m_iNOSCs,
+                          &gMainConfig.m_iNArduinos, &gMainConfig.m_iNQDMs, &gMainConfig.m_iNFlash,
+                          &gMainConfig.m_iNMIDIs, &gMainConfig.m_iNVideoCaps};
+    for (int i = 0; i < 8; ++i) {
+        QComboBox* combo = m_countCombos[i];
+        qint16* member = members[i];
+        const bool always = combo == ComboNMIDI || combo == ComboNVideoCaps;
+        connect(combo, &QComboBox::activated, this, [this, combo, member, always] { deviceCountActivated(combo, *member, always); });
+    }
+    struct NoneMessage {
+        QPushButton* button;
+        QComboBox* combo;
+        const char* text;
+    };
+    const NoneMessage messages[6] = {
+        {ExoskeletonsCalibration, nullptr, "No Exoskeletons!"},
+        {ArduinoConfig, ComboNArduinos, "No Arduinos!"},
+        {CommandOSC, ComboNOSCs, "No OSC connections!"},
+        {CommandFlash, ComboNFlash, "No Flash players!"},
+        {CommandPorts, ComboNMIDI, "No MIDI devices to configure!"},
+        {CommandScreen, ComboNScreens, "No QEL Display Managers to configure!"},
+    };
+    for (const NoneMessage& m : messages) {
+        connect(m.button, &QPushButton::clicked, this, [m] {
+            const int count = m.combo ? m.combo->currentIndex() : gMainConfig.m_iNExos;
+            if (count <= 0)
+                MsgBoxExclamation(QString::fromLatin1(m.text));
+        });
+    }
+}
+
+void FormInitial::deviceCountActivated(QComboBox* combo, qint16& member, bool always)
+{
+    if (gSuppressComboEvents)
+        return;
+    const auto index = static_cast<qint16>(combo->currentIndex());
+    if (always || member != index) {
+        member = index;
+        gDirty = true;
+    }
+}
+
+// ---------------------------------------------------------------- start
+
+void FormInitial::Form_Load()
+{
+    CommandRules_Click();
+    gMainConfig.m_bUpdate = false;
+    const qint64 start = GetTickCount();
+    auto* splash = new FormEntry(this);
+    splash->show();
+    gGlobalRuleView = false;
+    ListGlobalRules->clear();
+    ListGlobalRules->addItem(QStringLiteral("GLOBAL RULES"));
+    while (GetTickCount() - start < 1500) {
+        DoEvents();
+        QThread::msleep(5);
+    }
+    for (int i = 0; i <= 10; ++i) {
+        gSourceFilter(i) = true;
+        gTargetFilter(i) = true;
+    }
+    New_Click();
+    splash->close();
+    delete splash;
+    InitExoSensorLabels();
+    InitExoTypeNames();
+    resize(twips(14400), twips(10775));
+    CommandUp->hide();
+    CommandDown->hide();
+}
+
+void FormInitial::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    Form_Resize();
+}
+
+void FormInitial::Form_Resize()
+{
+    const QWidget* area = centralWidget();
+    if (area->width() * 15 < 11300 || area->height() * 15 < 5775)
+        return;
+    layoutControls();
+}
+
+void FormInitial::layoutControls()
+{
+    const int w = centralWidget()->width();
+    const int h = centralWidget()->height();
+    const int right = twips(300), belowRules = twips(900), belowScenes = twips(1500);
+    const int left2 = 290;
+
+    TextName->setGeometry(20, 8, w - 200, 32);
+    CommandConn->setGeometry(w - right - 150, 10, 70, 30);
+    CommandRules->setGeometry(w - right - 75, 10, 75, 30);
+
+    // Rule view: the scene list on the left, the rules on the right.
+    ListGlobalRules->setGeometry(20, 50, 220, 26);
+    ListMain2->setGeometry(20, 80, 220, h - 80 - belowScenes);
+    const int scenesBottom = h - belowScenes;
+    CommandUp->setGeometry(245, 80, 30, 30);
+    CommandDown->setGeometry(245, 115, 30, 30);
+    for (int i = 0; i < CommandColor.size(); ++i)
+        CommandColor[i]->setGeometry(20 + i * 27, scenesBottom + 6, 24, 20);
+    CommandAddScene->setGeometry(20, scenesBottom + 32, 70, 26);
+    CommandEdit->setGeometry(92, scenesBottom + 32, 150, 26);
+    CommandDelete->setGeometry(20, scenesBottom + 62, 222, 26);
+    CommandShowConfig->setGeometry(left2, h - belowRules + 16, 160, 26);
+    CommandBots->setGeometry(left2 + 170, h - belowRules + 16, 80, 26);
+
+    Label5->setGeometry(left2, 50, 130, 22);
+    LabelNumScene->setGeometry(left2 + 130, 50, 50, 22);
+    LabelName->setGeometry(left2 + 185, 50, 300, 22);
+    Label1->setGeometry(left2, 76, 60, 22);
+    Label3->setGeometry(left2, 100, 60, 22);
+    Label15->setGeometry(left2, 126, 90, 24);
+    TextSearched->setGeometry(left2 + 90, 126, 200, 24);
+    CommandAdd->setGeometry(left2 + 300, 125, 130, 26);
+    for (int i = 0; i < CommandTargetsFilt.size(); ++i)
+        CommandTargetsFilt[i]->setGeometry(w - right - (CommandTargetsFilt.size() - i) * 62, 50, 60, 24);
+    ListEvents->setGeometry(left2, 156, w - left2 - right, h - 156 - belowRules);
+
+    // Device view.
+    int y = 60;
+    for (int i = 0; i < m_countCombos.size(); ++i, y += 34) {
+        DeviceLabels[i]->setGeometry(left2, y, 230, 26);
+        m_countCombos[i]->setGeometry(left2 + 235, y, 70, 26);
+        if (i < m_dialogButtons.size())
+            m_dialogButtons[i]->setGeometry(left2 + 320, y, 140, 26);
+    }
+    LabelEvPerSec->setGeometry(left2, y, 230, 26);
+    txtEvPerSec->setGeometry(left2 + 235, y, 70, 26);
+    CommandTalpor->setGeometry(left2 + 320, y, 140, 26);
+    CommandUnlock->setGeometry(left2 + 480, 60, 110, 30);
+    CommandLock->setGeometry(left2 + 480, 60, 110, 30);
+}
+
+// ---------------------------------------------------------------- New
+
+void FormInitial::New_Click()
+{
+    if (gDirty) {
+        const MsgAnswer answer = MsgBox(QStringLiteral("Save Configuration?"), MsgButtons::YesNoCancel, MsgIcon::Question);
+        if (answer == MsgAnswer::Cancel)
+            return;
+        if (answer == MsgAnswer::Yes)
+            Save_Click();
+    }
+    CMainConfig& cfg = gMainConfig;
+    cfg.m_bUpdate = false;
+    gConfigFilePath.clear();
+    gConfigName.clear();
+    gConfigFolder.clear();
+    iSelectedRow = -1;
+    gCurrentScene = -1;
+    gCurrentPart = -1;
+
+    cfg.m_strName = QStringLiteral("QEL New");
+    cfg.m_iNExos = 0;
+    cfg.m_iNTotems = 0;
+    cfg.m_iNOSCs = 0;
+    cfg.m_iNArduinos = 0;
+    cfg.m_iNQDMs = 0;
+    cfg.m_iNMIDIs = 0;
+    cfg.m_iNFlash = 0;
+    cfg.m_iNVideoCaps = 0;
+    cfg.m_iExo1Port = 1;
+    cfg.m_iExo2Port = 1;
+    cfg.m_iTalporPort = 0;
+    for (int i = 0; i <= 7; ++i) {
+        cfg.m_iMIDIPort(i) = -1;
+        cfg.m_iInMIDIPort(i) = -1;
+        cfg.m_iOutMIDIPort(i) = -1;
+        cfg.m_strMIDIPortLabel(i).clear();
+        cfg.m_strInMIDIPortLabel(i).clear();
+        cfg.m_strOutMIDIPortLabel(i).clear();
+    }
+    cfg.m_iQDMPort = 1111;
+    cfg.m_iFlashPort = 1122;
+    cfg.m_strScenesFile.clear();
+    cfg.m_strMoviesRoot = QStringLiteral("C:\\QEL\\MOVIES\\");
+    cfg.m_strScenesFilenames.clear();
+    cfg.m_strMovieLoadsFile.clear();
+    cfg.m_strMovieEventsFile.clear();
+    cfg.m_strRukaBotsFile.clear();
+    cfg.m_strTalporFile.clear();
+    cfg.m_strVilnaFile.clear();
+    cfg.m_iMovieWidth = 800;
+    cfg.m_iMovieHeight = 600;
+    cfg.m_strLocalIPAddress = LocalIPAddress();
+    cfg.m_lBkColor = 0;
+    cfg.m_iEventsPerSec = 16;
+    gNDigitalIO = 1;
+    for (int i = 0; i <= 3; ++i) {
+        gDigitalIOCardID(i) = i;
+        gDigitalIONIn(i) = 32;
+        gDigitalIONOut(i) = 32;
+    }
+    for (int i = 0; i <= 3; ++i) {
+        gTotemAxes(i) = 2;
+        gTotemButtons(i) = 5;
+    }
+    for (int i = 0; i <= 3; ++i)
+        cfg.m_iTotemDevice(i) = static_cast<qint16>(i + 1);
+
+    TextName->setText(cfg.m_strName);
+    InitExoData();
+    InitArduinoData();
+    for (int i = 0; i <= 15; ++i) {
+        cfg.m_iOSCPort(i) = -1;
+        cfg.m_iOSCPortInOut(i) = 0;
+        cfg.m_strOSCIP(i) = QStringLiteral("0.0.0.0");
+        cfg.m_strOSCPortLabel(i) = QStringLiteral("OSC ") + Format(i + 1, QStringLiteral("#0"));
+    }
+    for (int i = 0; i <= 7; ++i) {
+        const QString n = QString::number(i + 1);
+        cfg.m_iNAppPerQDM(i) = 2;
+        cfg.m_strDisplayManagerPath(i) = QStringLiteral("\\\\QDM") + n + QStringLiteral("machine\\path\\to\\the\\qdm\\executable\\file\\");
+        for (int j = 0; j <= 7; ++j) {
+            const QString k = QString::number(j + 1);
+            cfg.m_strVideoAppLabel(i, j) = QStringLiteral("QDM ") + n + QStringLiteral(" | Video App Label ") + k;
+            cfg.m_strVideoAppWindow(i, j) = QStringLiteral("QDM ") + n + QStringLiteral(" | Video App Window ") + k;
+            cfg.m_strVideoAppPath(i, j) = QStringLiteral("c:\\myvideopath");
+            cfg.m_bVideoAppLaunch(i, j) = false;
+        }
+    }
+    for (int i = 0; i <= 15; ++i)
+        cfg.m_strFlashFolderPath(i) = QStringLiteral("\\\\flashmachine") + QString::number(i + 1) + QStringLiteral("\\flashfolder\\");
+
+    gLastScene = -1;
+    gScenes.Clear();
+    auto scene = std::make_shared<CScene>();
+    scene->m_iID = gCurrentScene;
+    scene->m_strName = QStringLiteral("SCENE 1");
+    scene->m_strRemarks = QStringLiteral("My first and only scene");
+    scene->m_iNumParts = 0;
+    for (int i = 0; i < cfg.m_iNFlash; ++i)
+        scene->m_strMovie(i).clear();
+    scene->InitPartList();
+    appendScene(scene);
+
+    FillSceneListView(ListMain2);
+    CommandUp->setEnabled(false);
+    CommandDown->setEnabled(false);
+    CommandUp->hide();
+    CommandDown->hide();
+
+    gMaxEventsPerPart = 0;
+    gMovieEventCount = 0;
+    gDirty = false;
+    ClearGlobalEvents();
+    ShowDeviceCounts();
+    gDirty = false;
+    iSelectedRow = 0;
+
+    if (ListMain2->topLevelItemCount() > 0 && !ListMain2->isHidden()) {
+        ListMain2->clearSelection();
+        ListMain2->topLevelItem(0)->setSelected(true);
+        ListMain2_Click();
+    }
+    FillGroups(TextSearched);
+    TextSearched_Change();
+}
+
+// ---------------------------------------------------------------- Open, Save, Save As
+
+namespace {
+const QString kConfigFilter = QStringLiteral("Configuration Files (*.qel)|*.qel");
+const QString kConfigExtension = QStringLiteral(".qel");
+}
+
+void FormInitial::Save_Click()
+{
+    if (!gConfigFilePath.isEmpty())
+        SaveConfiguration(gConfigFilePath);
+    else
+        SaveAs_Click();
+}
+
+void FormInitial::SaveAs_Click()
+{
+    const QString path = ShowSaveDialog(this, QStringLiteral("TheCommonDialog"), kConfigFilter, kConfigExtension);
+    if (path.isEmpty())
+        return;
+    DeriveConfigPaths(path);
+    SaveConfiguration(gConfigFilePath);
+}
+
+void FormInitial::Open_Click()
+{
+    if (gDirty) {
+        const MsgAnswer answer = MsgBox(QStringLiteral("Save Configuration?"), MsgButtons::YesNoCancel, MsgIcon::Question);
+        if (answer == MsgAnswer::Cancel)
+            return;
+        if (answer == MsgAnswer::Yes)
+            Save_Click();
+    }
+    const QString path = ShowOpenDialog(this, QStringLiteral("TheCommonDialog"), kConfigFilter, kConfigExtension);
+    if (path.isEmpty())
+        return;
+    DeriveConfigPaths(path);
+    OpenConfiguration(gConfigFilePath);
+    // The window shows whatever arrived, also after a failed open.
+    CommandUp->hide();
+    CommandDown->hide();
+    ShowMainCfg();
+    FillSceneListView(ListMain2);
+    ShowDeviceCounts();
+    gDirty = false;
+    if (ListMain2->topLevelItemCount() > 0) {
+        ListMain2->clearSelection();
+        ListMain2->topLevelItem(0)->setSelected(true);
+        ListMain2_Click();
+    }
+    CommandConn_Click();
+    FillGroups(TextSearched);
+    RefreshRuleView();
+}
+
+void FormInitial::appendScene(const std::shared_ptr<CScene>& scene)
+{
+    // Appended when no scene row is selected or the place is after the last scene.
+    if (gCurrentScene == gScenes.Count() || iSelectedRow == -1)
+        gScenes.Add(scene);
+    else
+        gScenes.Add(scene, iSelectedRow + 1);
+    ++gLastScene;
+    for (int index = gCurrentScene + 1; index <= gLastScene; ++index)
+        ++gScenes.Item(index + 1)->m_iID;
+}
+
+void FormInitial::ShowMainCfg() { TextName->setText(gMainConfig.m_strName); }
+
+void FormInitial::Quit_Click() { close(); }
+
+void FormInitial::TheName_Click()
+{
+    FormName dialog(this);
+    dialog.exec();
+    if (gMainConfig.m_bUpdate) {
+        TextName->setText(gMainConfig.m_strName);
+        gMainConfig.m_bUpdate = false;
+    }
+}
+
+void FormInitial::About_Click()
+{
+    FormEntry about(this);
+    about.setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
+    about.setModal(true);
+    about.exec();
+}
+
+// ---------------------------------------------------------------- closing
+
+void FormInitial::closeEvent(QCloseEvent* event)
+{
+    if (Form_Unload())
+        event->accept();
+    else
+        event->ignore();
+}
+
+bool FormInitial::Form_Unload()
+{
+    bool refused = false;
+    if (gDirty) {
+        const MsgAnswer answer = MsgBox(QStringLiteral("Save Configuration?"), MsgButtons::YesNoCancel, MsgIcon::Question);
+        if (answer == MsgAnswer::Yes)
+            Save_Click();
+        else if (answer == MsgAnswer::Cancel)
+            refused = true;
+    }
+    // The auto-save, in every case: named after today's date, so one a day.
+    const QString dateName = ShortDateText().replace(u'/', u' ');
+    const QString root = AutoSaveRoot();
+    MakeDirectory(root + PathSeparator() + QStringLiteral("AutoSave"));
+    gConfigFolder = root + PathSeparator() + QStringLiteral("AutoSave") + PathSeparator();
+    gConfigName = dateName;
+    gConfigFilePath = gConfigFolder + gConfigName + QStringLiteral(".qel");
+    gAutoSaved = true;
+    SaveConfiguration(gConfigFilePath);
+    return !refused;
+}
+
+// ---------------------------------------------------------------- views
+
+void FormInitial::setRuleViewVisible(bool visible)
+{
+    QList<QWidget*> rule = {TextSearched, Label15, CommandAdd, ListEvents, CommandBots, ListGlobalRules, ListMain2,
+                            CommandAddScene, CommandEdit, CommandShowConfig, CommandDelete, CommandUp, CommandDown,
+                            Label1, Label3};
+    for (auto* b : CommandColor)
+        rule << b;
+    for (auto* b : CommandTargetsFilt)
+        rule << b;
+    for (auto* c : CheckSource)
+        rule << c;
+    for (auto* c : CheckTarget)
+        rule << c;
+    for (QWidget* w : rule)
+        w->setVisible(visible);
+}
+
+void FormInitial::setDevicePanelVisible(bool visible)
+{
+    QList<QWidget*> panel = {txtEvPerSec, LabelEvPerSec, CommandTalpor};
+    for (auto* l : DeviceLabels)
+        panel << l;
+    for (auto* c : m_countCombos)
+        panel << c;
+    for (auto* b : m_dialogButtons)
+        panel << b;
+    for (QWidget* w : panel)
+        w->setVisible(visible);
+    CommandUnlock->setVisible(visible && !bPanelLocked);
+    CommandLock->setVisible(visible && bPanelLocked);
+}
+
+void FormInitial::CommandConn_Click()
+{
+    setDevicePanelVisible(false);
+    setRuleViewVisible(true);
+}
+
+void FormInitial::CommandRules_Click()
+{
+    setRuleViewVisible(false);
+    setDevicePanelVisible(true);
+}
+
+void FormInitial::setDevicePanelEnabled(bool enabled)
+{
+    for (auto* c : m_countCombos)
+        c->setEnabled(enabled);
+    for (auto* b : m_dialogButtons)
+        b->setEnabled(enabled);
+    txtEvPerSec->setEnabled(enabled);
+    CommandTalpor->setEnabled(enabled);
+}
+
+void FormInitial::CommandUnlock_Click()
+{
+    bPanelLocked = true;
+    setDevicePanelEnabled(false);
+    CommandUnlock->hide();
+    CommandLock->show();
+}
+
+void FormInitial::CommandLock_Click()
+{
+    bPanelLocked = false;
+    setDevicePanelEnabled(true);
+    CommandLock->hide();
+    CommandUnlock->show();
+}
+
+void FormInitial::ShowDeviceCounts()
+{
+    const qint16 counts[8] = {gMainConfig.m_iNExos, gMainConfig.m_iNTotems, gMainConfig.m_iNOSCs,
+                              gMainConfig.m_iNArduinos, gMainConfig.m_iNQDMs, gMainConfig.m_iNFlash,
+                              gMainConfig.m_iNMIDIs, gMainConfig.m_iNVideoCaps};
+    const int lists[8] = {2, 4, 16, 16, 8, 16, 8, 4};
+    for (int i = 0; i < 8; ++i) {
+        QComboBox* combo = m_countCombos[i];
+        combo->clear();
+        for (int n = 0; n <= lists[i]; ++n)
+            combo->addItem(QString::number(n));
+        combo->setCurrentIndex(counts[i] >= 0 && counts[i] <= lists[i] ? counts[i] : -1);
+    }
+    txtEvPerSec->setText(QString::number(gMainConfig.m_iEventsPerSec));
+}
+
+void FormInitial::txtEvPerSec_Change()
+{
+    if (ConvertsToLong(txtEvPerSec->text())) {
+        try {
+            gMainConfig.m_iEventsPerSec = ToInteger(txtEvPerSec->text());
+        } catch (const RuntimeError&) {
+            // Above 32767: the number check passes and the conversion fails; the member stays.
+        }
+    } else {
+        txtEvPerSec->setText(QStringLiteral("16"));
+    }
+    gDirty = true;
+}
+
+// ---------------------------------------------------------------- scene and rule lists
+
+void FormInitial::ListMain2_Click()
+{
+    if (gGlobalRuleView) {
+        CommandAdd->setText(QStringLiteral("Add rule"));
+        ListGlobalRules->clearSelection();
+        gGlobalRuleView = false;
+        RefreshRuleView();
+    }
+    iSelectedRow = -1;
+    const int rows = ListMain2->topLevelItemCount();
+    for (int r = 0; r < rows; ++r)
+        if (ListMain2->topLevelItem(r)->isSelected())
+            iSelectedRow = static_cast<qint16>(r);
+    if (iSelectedRow == rows - 1)
+        iSelectedRow = -1;   // the end row
+    if (gScenes.Count() > 0) {
+        if (ListGlobalRules->count() == 0)
+            ListGlobalRules->addItem(QStringLiteral("GLOBAL RULES"));
+    } else {
+        ListGlobalRules->clear();
+    }
+    if (iSelectedRow == -1 || iSelectedRow == rows) {
+        CommandUp->setEnabled(false);
+        CommandDown->setEnabled(false);
+        CommandUp->hide();
+        CommandDown->hide();
+        CommandAdd->setEnabled(false);
+    } else {
+        CommandUp->setEnabled(true);
+        CommandDown->setEnabled(true);
+        CommandUp->show();
+        CommandDown->show();
+        gCurrentScene = iSelectedRow;
+        gCurrentPart = 0;
+        CommandAdd->setEnabled(true);
+    }
+    RefreshRuleView();
+}
+
+void FormInitial::ListGlobalRules_Click()
+{
+    SyncSelectedScene();
+    if (gGlobalRuleView)
+        return;
+    CommandAdd->setText(QStringLiteral("Add global rule"));
+    ListMain2->clearSelection();
+    gGlobalRuleView = true;
+    RefreshRuleView();
+}
+
+void FormInitial::SyncSelectedScene()
+{
+    if (iSelectedRow != -1 && iSelectedRow != ListMain2->topLevelItemCount())
+        gCurrentScene = iSelectedRow;
+    gCurrentPart = 0;
+}
+
+void FormInitial::TextSearched_Change()
+{
+    SyncSelectedScene();
+    gCurrentGroup = TextSearched->currentText();
+    RefreshRuleView();
+}
+
+void FormInitial::RefreshRuleView()
+{
+    if (gGlobalRuleView) {
+        Label5->setText(QStringLiteral("Global Rules"));
+        LabelNumScene->hide();
+        LabelName->hide();
+    } else if (gCurrentScene < 0) {
+        Label5->setText(QStringLiteral("No scene selected"));
+        LabelNumScene->setText(QString::number(gCurrentScene));
+        LabelName->clear();
+        LabelNumScene->hide();
+        LabelName->hide();
+    } else {
+        Label5->setText(QStringLiteral("Scene"));
+        LabelNumScene->setText(QString::number(gCurrentScene));
+        LabelNumScene->show();
+        if (gCurrentPart >= 0) {
+            try {
+                LabelName->setText(gScenes.Item(gCurrentScene + 1)->PartList.Item(gCurrentPart + 1)->m_strName);
+            } catch (const RuntimeError&) {
+                // No such scene or subscene: the label keeps its text.
+            }
+            LabelName->show();
+        } else {
+            LabelName->hide();
+        }
+    }
+    try {
+        FillRuleList(gCurrentScene + 1, gCurrentPart + 1, ListEvents);
+    } catch (const RuntimeError&) {
+        // No such scene or subscene: the list stays as it was.
+    }
+}

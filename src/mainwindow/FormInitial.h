@@ -1,0 +1,158 @@
+#pragma once
+// The main window: the scene and rule lists on one view, the device panel on
+// the other, and the menus of the whole program.
+#include <QList>
+#include <QMainWindow>
+#include <QString>
+#include <memory>
+
+class QAction;
+class QCheckBox;
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QListWidget;
+class QMenu;
+class QPushButton;
+class QTreeWidget;
+class QCloseEvent;
+class QResizeEvent;
+
+class FormInitial : public QMainWindow {
+    Q_OBJECT
+public:
+    explicit FormInitial(QWidget* parent = nullptr);
+
+    // --- menus ---
+    QMenu* File;
+    QAction* New;
+    QAction* Open;
+    QAction* Save;
+    QAction* SaveAs;
+    QAction* Print;
+    QAction* Quit;
+    QMenu* Edit;
+    QAction* Cut;
+    QAction* Copy;
+    QAction* Paste;
+    QMenu* Setup;
+    QAction* TheName;
+    QMenu* ScenesParts;
+    QAction* AddScene;
+    QAction* EditScene;
+    QAction* Remove;
+    QMenu* Help;
+    QAction* About;
+
+    // --- always on show ---
+    QLabel* TextName;              // the title of the performance
+    QPushButton* CommandConn;      // switches to the rule view
+    QPushButton* CommandRules;     // switches to the device view
+
+    // --- rule view ---
+    QListWidget* ListGlobalRules;
+    QTreeWidget* ListMain2;        // scenes, then the empty end row
+    QPushButton* CommandAddScene;
+    QPushButton* CommandEdit;
+    QPushButton* CommandDelete;
+    QPushButton* CommandShowConfig;
+    QPushButton* CommandUp;
+    QPushButton* CommandDown;
+    QList<QPushButton*> CommandColor;        // 0-7
+    QPushButton* CommandBots;
+    QLabel* Label5;
+    QLabel* LabelNumScene;
+    QLabel* LabelName;
+    QLabel* Label1;
+    QList<QCheckBox*> CheckSource;           // 0-8
+    QLabel* Label3;
+    QList<QCheckBox*> CheckTarget;           // 0-5
+    QLabel* Label15;
+    QComboBox* TextSearched;
+    QPushButton* CommandAdd;
+    QList<QPushButton*> CommandTargetsFilt;  // 0-4
+    QTreeWidget* ListEvents;
+
+    // --- device view ---
+    QList<QLabel*> DeviceLabels;             // Label8 to Label14, Label16
+    QComboBox* ComboNExos;
+    QComboBox* ComboNTotems;
+    QComboBox* ComboNOSCs;
+    QComboBox* ComboNArduinos;
+    QComboBox* ComboNScreens;
+    QComboBox* ComboNFlash;
+    QComboBox* ComboNMIDI;
+    QComboBox* ComboNVideoCaps;
+    QPushButton* ExoskeletonsCalibration;
+    QPushButton* CommandItems;
+    QPushButton* CommandOSC;
+    QPushButton* ArduinoConfig;
+    QPushButton* CommandScreen;
+    QPushButton* CommandFlash;
+    QPushButton* CommandPorts;
+    QLabel* LabelEvPerSec;
+    QLineEdit* txtEvPerSec;
+    QPushButton* CommandTalpor;
+    QPushButton* CommandUnlock;
+    QPushButton* CommandLock;
+
+    // 0-based row of ListMain2 last selected; -1 when no scene row is selected.
+    qint16 iSelectedRow = -1;
+
+    // The start sequence: runs before the window is shown.
+    void Form_Load();
+    void Form_Resize();
+    // The closing steps; returns false when the close was refused.
+    bool Form_Unload();
+
+    void New_Click();
+    void Open_Click();
+    void Save_Click();
+    void SaveAs_Click();
+    void Quit_Click();
+    void TheName_Click();
+    void About_Click();
+
+    // Copies the title of the performance into TextName.
+    void ShowMainCfg();
+    // Fills the device panel from the main record.
+    void ShowDeviceCounts();
+    void CommandConn_Click();
+    void CommandRules_Click();
+    void CommandUnlock_Click();
+    void CommandLock_Click();
+    void txtEvPerSec_Change();
+
+    void ListMain2_Click();
+    void ListGlobalRules_Click();
+    void TextSearched_Change();
+    void SyncSelectedScene();
+    void RefreshRuleView();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void buildMenus();
+    void buildRuleView(QWidget* area);
+    void buildDevicePanel(QWidget* area);
+    void connectHandlers();
+    void setRuleViewVisible(bool visible);
+    void setDevicePanelVisible(bool visible);
+    void setDevicePanelEnabled(bool enabled);
+    void deviceCountActivated(QComboBox* combo, qint16& member, bool always);
+    // Appends a scene as the Add command does with no scene row selected.
+    void appendScene(const std::shared_ptr<class CScene>& scene);
+    void layoutControls();
+
+    QList<QComboBox*> m_countCombos;
+    QList<QPushButton*> m_dialogButtons;
+};
+
+// True while the device panel is locked (CommandUnlock was clicked).
+extern bool bPanelLocked;
+
+// The folder that holds the AutoSave folder: the program's own folder, or the
+// per-user application data folder where the program's folder cannot be written.
+QString AutoSaveRoot();
