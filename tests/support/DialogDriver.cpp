@@ -73,12 +73,21 @@ void DialogDriver::poll()
     m_handled.append(modal);
     m_seen << modal->windowTitle();
     Action action = m_actions.takeFirst();
-    try {
-        action(modal);
-    } catch (const std::exception& e) {
-        failAndClose(modal, QString::fromUtf8(e.what()));
-    }
     m_idleSince = GetTickCount();
+    // Run the action from its own event, so that this poll is free to see a
+    // dialog that the action itself opens (a timer does not re-enter its slot).
+    QPointer<QWidget> target(modal);
+    QTimer::singleShot(0, this, [this, action, target] {
+        if (!target)
+            return;
+        try {
+            action(target);
+        } catch (const std::exception& e) {
+            if (target)
+                failAndClose(target, QString::fromUtf8(e.what()));
+        }
+        m_idleSince = GetTickCount();
+    });
 }
 
 void DialogDriver::failAndClose(QWidget* dialog, const QString& why)
