@@ -67,7 +67,7 @@ void DialogDriver::poll()
     if (m_actions.isEmpty()) {
         // A dialog nobody expected: give it the time-out, then close it.
         if (GetTickCount() - m_idleSince > m_timeoutMs)
-            failAndClose(modal, QStringLiteral("unexpected dialog \"%1\"").arg(modal->windowTitle()));
+            failAndClose(modal, QStringLiteral("unexpected dialog \"%1\" %2").arg(modal->windowTitle(), text(modal).replace(QStringLiteral("\r\n"), QStringLiteral(" "))));
         return;
     }
     m_handled.append(modal);
