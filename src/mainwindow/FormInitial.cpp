@@ -390,7 +390,7 @@ void FormInitial::layoutControls()
     ListEvents->setGeometry(left2, 156, w - left2 - right, h - 156 - belowRules);
 
     // Device view.
-    int y = 60;
+    int y = 100;
     for (int i = 0; i < m_countCombos.size(); ++i, y += 34) {
         DeviceLabels[i]->setGeometry(left2, y, 230, 26);
         m_countCombos[i]->setGeometry(left2 + 235, y, 70, 26);
@@ -400,8 +400,8 @@ void FormInitial::layoutControls()
     LabelEvPerSec->setGeometry(left2, y, 230, 26);
     txtEvPerSec->setGeometry(left2 + 235, y, 70, 26);
     CommandTalpor->setGeometry(left2 + 320, y, 140, 26);
-    CommandUnlock->setGeometry(left2 + 480, 60, 110, 30);
-    CommandLock->setGeometry(left2 + 480, 60, 110, 30);
+    CommandUnlock->setGeometry(left2 + 480, 100, 110, 30);
+    CommandLock->setGeometry(left2 + 480, 100, 110, 30);
 }
 
 // ---------------------------------------------------------------- New
