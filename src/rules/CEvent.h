@@ -27,3 +27,31 @@ public:
     std::shared_ptr<Collection<CAction>> m_MsgOut;   // the actions in order; null until set
     QString m_strEvent;        // description for people, made when the rule is accepted
 };
+
+// The deep copy: every field of `source` is set on `target`, which gets a new
+// action collection holding a new copy of each action, in list order. The two
+// records share no action objects afterwards.
+inline void CopyEvent(CEvent& target, const CEvent& source)
+{
+    target.m_iInterType = source.m_iInterType;
+    target.m_iSense = source.m_iSense;
+    target.m_iSourceType = source.m_iSourceType;
+    target.m_iSource = source.m_iSource;
+    target.m_iItem = source.m_iItem;
+    target.m_strVariable = source.m_strVariable;
+    target.m_strVal1 = source.m_strVal1;
+    target.m_strVal2 = source.m_strVal2;
+    target.m_iChannel = source.m_iChannel;
+    target.m_strMin = source.m_strMin;
+    target.m_strMax = source.m_strMax;
+    target.m_bClip = source.m_bClip;
+    target.m_bEnabled = source.m_bEnabled;
+    target.m_strRemarks = source.m_strRemarks;
+    target.m_strGroup = source.m_strGroup;
+    target.m_strEvent = source.m_strEvent;
+    auto actions = std::make_shared<Collection<CAction>>();
+    if (source.m_MsgOut)
+        for (const auto& action : *source.m_MsgOut)
+            actions->Add(std::make_shared<CAction>(*action));
+    target.m_MsgOut = actions;
+}
