@@ -48,6 +48,19 @@ W* named(W* widget, const QString& name)
 
 QString arrayName(const QString& name, int index) { return QStringLiteral("%1(%2)").arg(name).arg(index); }
 
+// A filter row: checked boxes, hidden until the rule view places and captions them.
+QList<QCheckBox*> filterChecks(QWidget* area, const QString& name, int count)
+{
+    QList<QCheckBox*> boxes;
+    for (int i = 0; i < count; ++i) {
+        auto* box = named(new QCheckBox(area), arrayName(name, i));
+        box->setChecked(true);
+        box->hide();
+        boxes << box;
+    }
+    return boxes;
+}
+
 } // namespace
 
 QString AutoSaveRoot()
@@ -158,19 +171,9 @@ void FormInitial::buildRuleView(QWidget* area)
     LabelNumScene = named(new QLabel(area), QStringLiteral("LabelNumScene"));
     LabelName = named(new QLabel(area), QStringLiteral("LabelName"));
     Label1 = named(new QLabel(QStringLiteral("Sources"), area), QStringLiteral("Label1"));
-    for (int i = 0; i < 9; ++i) {
-        auto* c = named(new QCheckBox(area), arrayName(QStringLiteral("CheckSource"), i));
-        c->setChecked(true);
-        c->hide();
-        CheckSource << c;
-    }
+    CheckSource = filterChecks(area, QStringLiteral("CheckSource"), 9);
     Label3 = named(new QLabel(QStringLiteral("Targets"), area), QStringLiteral("Label3"));
-    for (int i = 0; i < 6; ++i) {
-        auto* c = named(new QCheckBox(area), arrayName(QStringLiteral("CheckTarget"), i));
-        c->setChecked(true);
-        c->hide();
-        CheckTarget << c;
-    }
+    CheckTarget = filterChecks(area, QStringLiteral("CheckTarget"), 6);
     Label15 = named(new QLabel(QStringLiteral("Search label"), area), QStringLiteral("Label15"));
     TextSearched = named(new QComboBox(area), QStringLiteral("TextSearched"));
     TextSearched->setEditable(true);

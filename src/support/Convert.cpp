@@ -44,9 +44,39 @@ double parseNumber(const QString& text)
     return value;
 }
 
+// A plain whole number (sign and up to 18 digits between blanks) needs no
+// rounding: its value is added up directly. Anything else returns false.
+bool plainWhole(const QString& text, qint64& value)
+{
+    qsizetype b = 0, e = text.size();
+    while (b < e && isBlank(text[b])) ++b;
+    while (e > b && isBlank(text[e - 1])) --e;
+    bool negative = false;
+    if (b < e && (text[b] == u'+' || text[b] == u'-')) {
+        negative = text[b] == u'-';
+        ++b;
+    }
+    if (b == e || e - b > 18)
+        return false;
+    qint64 n = 0;
+    for (qsizetype i = b; i < e; ++i) {
+        const char16_t c = text[i].unicode();
+        if (c < u'0' || c > u'9')
+            return false;
+        n = n * 10 + (c - u'0');
+    }
+    value = negative ? -n : n;
+    return true;
+}
+
 template <typename Int>
 Int toWhole(const QString& text)
 {
+    if (qint64 whole = 0; plainWhole(text, whole)) {
+        if (whole < std::numeric_limits<Int>::min() || whole > std::numeric_limits<Int>::max())
+            throw ConversionError(QStringLiteral("Overflow"));
+        return static_cast<Int>(whole);
+    }
     const double rounded = std::nearbyint(parseNumber(text)); // half to even
     if (rounded < double(std::numeric_limits<Int>::min()) || rounded > double(std::numeric_limits<Int>::max()))
         throw ConversionError(QStringLiteral("Overflow"));

@@ -26,7 +26,7 @@ void TextFileWriter::Print(const QString& text)
 {
     if (!m_file.isOpen())
         throw FileError(QStringLiteral("File not open"));
-    m_buffer += ToWindows1252(text);
+    AppendWindows1252(m_buffer, text);
     if (m_buffer.size() >= kFlushSize)
         flush();
 }

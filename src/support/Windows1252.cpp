@@ -23,11 +23,11 @@ char encodeOne(char16_t c)
 
 } // namespace
 
-QByteArray ToWindows1252(QStringView text)
+void AppendWindows1252(QByteArray& out, QStringView text)
 {
-    QByteArray out;
-    out.resize(text.size());
-    char* p = out.data();
+    const qsizetype start = out.size();
+    out.resize(start + text.size());
+    char* p = out.data() + start;
     for (qsizetype i = 0; i < text.size(); ++i) {
         const QChar c = text[i];
         // A surrogate pair is one character with no code: one "?".
@@ -39,6 +39,12 @@ QByteArray ToWindows1252(QStringView text)
         *p++ = encodeOne(c.unicode());
     }
     out.resize(p - out.data());
+}
+
+QByteArray ToWindows1252(QStringView text)
+{
+    QByteArray out;
+    AppendWindows1252(out, text);
     return out;
 }
 

@@ -7,5 +7,7 @@
 #include <QString>
 
 QByteArray ToWindows1252(QStringView text);
+// Appends the encoded text to `out`.
+void AppendWindows1252(QByteArray& out, QStringView text);
 QString FromWindows1252(const char* data, qsizetype size);
 inline QString FromWindows1252(const QByteArray& bytes) { return FromWindows1252(bytes.constData(), bytes.size()); }
