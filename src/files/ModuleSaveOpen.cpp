@@ -1,4 +1,5 @@
 #include "files/ModuleSaveOpen.h"
+#include <functional>
 #include <QFileInfo>
 #include "files/ModuleArduinoData.h"
 #include "files/ModuleBotEvents.h"
@@ -13,6 +14,7 @@
 #include "rules/ModuleGlobalEvents.h"
 #include "support/ModuleGUI.h"
 #include "support/Platform.h"
+#include "support/RuntimeError.h"
 
 QString PerformanceFilePath(const QString& name)
 {
@@ -27,6 +29,38 @@ void DeriveConfigPaths(const QString& chosenPath)
     gConfigFolder = gConfigFilePath.left(gConfigFilePath.size() - (gConfigName.size() + 4));
 }
 
+namespace {
+
+// One step of the sequence: a step whose file name cannot even be composed (a
+// device count beyond its table) fails like a step whose writer fails.
+bool stepSucceeds(const std::function<bool()>& step)
+{
+    try {
+        return step();
+    } catch (const RuntimeError&) {
+        return false;
+    }
+}
+
+// A save step: on failure its message, and the save goes on.
+void saveStep(const std::function<bool()>& step, const char* message)
+{
+    if (!stepSucceeds(step))
+        MsgBoxExclamation(QString::fromLatin1(message));
+}
+
+// An open step: on failure its message (if it has one), and the open ends.
+bool openStep(const std::function<bool()>& step, const char* message)
+{
+    if (stepSucceeds(step))
+        return true;
+    if (message)
+        MsgBoxExclamation(QString::fromLatin1(message));
+    return false;
+}
+
+} // namespace
+
 void SaveConfiguration(const QString& path)
 {
     if (path.isEmpty())
@@ -35,61 +69,54 @@ void SaveConfiguration(const QString& path)
     MakeDirectory(gConfigFolder + gConfigName);
     CMainConfig& cfg = gMainConfig;
 
-    auto step = [](bool written, const char* message) {
-        if (!written)
-            MsgBoxExclamation(QString::fromLatin1(message));
-    };
-    step(WriteMainConfigFile(path), "Error saving main configuration!");
-    step(WriteScenesFile(PerformanceFilePath(cfg.m_strScenesFile)), "Error saving scenes configuration!");
-    step(WriteSceneNamesFile(PerformanceFilePath(cfg.m_strScenesFilenames)), "Error saving movies filenames!");
-    step(WriteEventsFile(PerformanceFilePath(cfg.m_strEventsFile)), "Error saving events configuration!");
-    step(WriteBotEventsFile(PerformanceFilePath(cfg.m_strRukaBotsFile), PerformanceFilePath(cfg.m_strTalporFile),
-                            PerformanceFilePath(cfg.m_strVilnaFile)),
-         "Error saving rukaBots events configuration!");
+    saveStep([&] { return WriteMainConfigFile(path); }, "Error saving main configuration!");
+    saveStep([&] { return WriteScenesFile(PerformanceFilePath(cfg.m_strScenesFile)); },
+             "Error saving scenes configuration!");
+    saveStep([&] { return WriteSceneNamesFile(PerformanceFilePath(cfg.m_strScenesFilenames)); },
+             "Error saving movies filenames!");
+    saveStep([&] { return WriteEventsFile(PerformanceFilePath(cfg.m_strEventsFile)); },
+             "Error saving events configuration!");
+    saveStep([&] {
+        return WriteBotEventsFile(PerformanceFilePath(cfg.m_strRukaBotsFile), PerformanceFilePath(cfg.m_strTalporFile),
+                                  PerformanceFilePath(cfg.m_strVilnaFile));
+    }, "Error saving rukaBots events configuration!");
     for (int i = 1; i <= cfg.m_iNExos; ++i)
-        step(WriteExoDataFile(static_cast<qint16>(i - 1), PerformanceFilePath(cfg.m_strExoDataFile(i - 1))),
-             "Error saving exoskeleton data configuration!");
+        saveStep([&] { return WriteExoDataFile(qint16(i - 1), PerformanceFilePath(cfg.m_strExoDataFile(i - 1))); },
+                 "Error saving exoskeleton data configuration!");
     for (int i = 1; i <= cfg.m_iNArduinos; ++i)
-        step(WriteArduinoDataFile(static_cast<qint16>(i - 1), PerformanceFilePath(cfg.m_strArdDataFile(i - 1))),
-             "Error saving Arduino data configuration!");
+        saveStep([&] { return WriteArduinoDataFile(qint16(i - 1), PerformanceFilePath(cfg.m_strArdDataFile(i - 1))); },
+                 "Error saving Arduino data configuration!");
     WriteVideoEventsFile(PerformanceFilePath(QStringLiteral("VideoEvents.cfg")));
-    step(WriteVideoCaptureFile(PerformanceFilePath(QStringLiteral("VideoCapture.cfg"))),
-         "Error saving video capture configuration!");
-    step(WriteGlobalEventsFile(PerformanceFilePath(QStringLiteral("GlobalEvents.cfg"))),
-         "Error saving global events configuration!");
+    saveStep([&] { return WriteVideoCaptureFile(PerformanceFilePath(QStringLiteral("VideoCapture.cfg"))); },
+             "Error saving video capture configuration!");
+    saveStep([&] { return WriteGlobalEventsFile(PerformanceFilePath(QStringLiteral("GlobalEvents.cfg"))); },
+             "Error saving global events configuration!");
 }
 
 void OpenConfiguration(const QString& path)
 {
     CMainConfig& cfg = gMainConfig;
-    if (!ReadMainConfigFile(path)) {
-        MsgBoxExclamation(QStringLiteral("Error opening main configuration!"));
+    if (!openStep([&] { return ReadMainConfigFile(path); }, "Error opening main configuration!"))
         return;
-    }
-    for (int i = 1; i <= cfg.m_iNArduinos; ++i) {
-        if (!ReadArduinoDataFile(static_cast<qint16>(i - 1), PerformanceFilePath(cfg.m_strArdDataFile(i - 1)))) {
-            MsgBoxExclamation(QStringLiteral("Error opening Arduino data configuration!"));
+    for (int i = 1; i <= cfg.m_iNArduinos; ++i)
+        if (!openStep([&] { return ReadArduinoDataFile(qint16(i - 1), PerformanceFilePath(cfg.m_strArdDataFile(i - 1))); },
+                      "Error opening Arduino data configuration!"))
             return;
-        }
-    }
     gLastScene = -1;
     gScenes.Clear();
-    if (!ReadScenesFile(PerformanceFilePath(cfg.m_strScenesFile))) {
-        MsgBoxExclamation(QStringLiteral("Error opening scenes configuration!"));
+    if (!openStep([&] { return ReadScenesFile(PerformanceFilePath(cfg.m_strScenesFile)); },
+                  "Error opening scenes configuration!"))
         return;
-    }
-    if (!ReadEventsFile(PerformanceFilePath(cfg.m_strEventsFile)))
-        return;   // the rules reader has shown its own message
-    if (!ReadGlobalEventsFile(PerformanceFilePath(QStringLiteral("GlobalEvents.cfg")))) {
-        MsgBoxExclamation(QStringLiteral("Error opening global events configuration!"));
+    // The rules reader shows its own message.
+    if (!openStep([&] { return ReadEventsFile(PerformanceFilePath(cfg.m_strEventsFile)); }, nullptr))
         return;
-    }
-    for (int i = 1; i <= cfg.m_iNExos; ++i) {
-        if (!ReadExoDataFile(static_cast<qint16>(i - 1), PerformanceFilePath(cfg.m_strExoDataFile(i - 1)))) {
-            MsgBoxExclamation(QStringLiteral("Error opening exoskeleton data configuration!"));
+    if (!openStep([&] { return ReadGlobalEventsFile(PerformanceFilePath(QStringLiteral("GlobalEvents.cfg"))); },
+                  "Error opening global events configuration!"))
+        return;
+    for (int i = 1; i <= cfg.m_iNExos; ++i)
+        if (!openStep([&] { return ReadExoDataFile(qint16(i - 1), PerformanceFilePath(cfg.m_strExoDataFile(i - 1))); },
+                      "Error opening exoskeleton data configuration!"))
             return;
-        }
-    }
-    if (!ReadVideoCaptureFile(PerformanceFilePath(QStringLiteral("VideoCapture.cfg"))))
-        MsgBoxExclamation(QStringLiteral("Error opening video capture configuration!"));
+    openStep([&] { return ReadVideoCaptureFile(PerformanceFilePath(QStringLiteral("VideoCapture.cfg"))); },
+             "Error opening video capture configuration!");
 }

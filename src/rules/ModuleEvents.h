@@ -2,6 +2,7 @@
 // The rule vocabulary (numbers and the tokens that stand for them in the rule
 // text) and the rules file Events.cfg, which holds the rules of every subscene.
 #include <QString>
+#include <QStringView>
 #include <QtGlobal>
 #include "rules/CAction.h"
 #include "rules/CEvent.h"
@@ -65,10 +66,15 @@ bool ReadEventsFile(const QString& path);
 
 // --- shared with GlobalEvents.cfg ---------------------------------------------
 
-// The rest of a rule block from field 9 of the record line on: the keyword
-// fields, then the event, count, action and message lines, each ended by CR LF.
-// Stores " " back into the empty fields it writes so.
-QString BuildRuleBlockTail(CEvent& rule);
-// Reads fields 9 and on of `line` from `position`, then the event, count, action
-// and message lines from `file`. Throws on a failure; a count of 0 gives false.
-bool ParseRuleBlockTail(TextFileReader& file, const QString& line, int& position, CEvent& event);
+// Appends to `text` the record line from its field 5 (remarks, source type,
+// source, item, then the keyword fields) and the event, count, action and
+// message lines, each ended by CR LF. With `automaticVariable` false the item
+// of an Automatic rule is always " ". Stores " " back into the empty fields it
+// writes so.
+void AppendRuleBlock(QString& text, CEvent& rule, bool automaticVariable);
+// Reads the fields of the record line `line` from its field 5 on, which starts
+// at the 0-based offset `offset`, then the event, count, action and message
+// lines from `file`. With `automaticVariable` false an Automatic rule takes no
+// variable from its item field. Throws on a failure; a count of 0 gives false.
+bool ParseRuleBlock(TextFileReader& file, QStringView line, qsizetype offset, CEvent& event,
+                    bool automaticVariable);

@@ -1,12 +1,17 @@
 // Exo1.cfg and Exo2.cfg: the golden file of a new suit and the reader's
 // tolerance of separators, short lines and bad fields.
+#include <QDir>
+#include <QFileInfo>
 #include <QTemporaryDir>
 #include <QtTest>
 #include "files/FileTestHelpers.h"
 #include "files/ModuleConfig.h"
 #include "files/ModuleExoData.h"
+#include "files/ModuleSaveOpen.h"
 #include "model/CExoData.h"
 #include "model/CMainConfig.h"
+#include "model/CScene.h"
+#include "support/DialogDriver.h"
 #include "support/TestData.h"
 #include "support/Windows1252.h"
 
@@ -260,6 +265,33 @@ private slots:
         FillMarked(1, 5);
         QVERIFY(ReadExoDataFile(0, path("Exo1.cfg")));
         QCOMPARE(gExoData(1).m_iChannel(5), qint16(5));
+    }
+
+    void oneSuitSavesNoSecondFileAndKeepsTheSecondRecord()
+    {
+        CMainConfig& c = gMainConfig;
+        c.m_iNExos = 1;
+        c.m_iNArduinos = 0;
+        c.m_iNTotems = c.m_iNOSCs = c.m_iNQDMs = c.m_iNMIDIs = c.m_iNFlash = c.m_iNVideoCaps = 0;
+        gNDigitalIO = 0;
+        gScenes.Clear();
+        gLastScene = -1;
+        FillMarked(0, 3);
+        FillMarked(1, 4);
+        QTemporaryDir dir;
+        DialogDriver noMessages(3000);   // any message box fails the test
+        DeriveConfigPaths(QDir::toNativeSeparators(dir.filePath(QStringLiteral("OneSuit.qel"))));
+        SaveConfiguration(gConfigFilePath);
+        QVERIFY2(noMessages.finished(), qPrintable(noMessages.error()));
+        const QString folder = dir.filePath(QStringLiteral("OneSuit"));
+        QVERIFY(QFileInfo::exists(folder + QStringLiteral("/Exo1.cfg")));
+        QVERIFY(!QFileInfo::exists(folder + QStringLiteral("/Exo2.cfg")));
+        QVERIFY(ReadBytes(folder + QStringLiteral("/Exo1.cfg")).startsWith("; Exoskeleton ID.\r\n 3 \r\n"));
+        FillMarked(0, 9);
+        QVERIFY(ReadExoDataFile(0, folder + QStringLiteral("/Exo1.cfg")));
+        QCOMPARE(gExoData(0).m_iChannel(5), qint16(3));
+        QCOMPARE(gExoData(1).m_iChannel(5), qint16(4));   // record 1 keeps its values in memory
+        QCOMPARE(gExoData(1).m_iID, qint16(4));
     }
 
     void typeOutsideTheTableFailsTheWriteKeepingWhatWasWritten()

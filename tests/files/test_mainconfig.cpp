@@ -553,6 +553,65 @@ private slots:
         QVERIFY(!WriteMainConfigFile(path("no-such-folder/x.qel")));
     }
 
+    void midiPortThatIsNoNumberOrNegativeStaysMinusOne()
+    {
+        QStringList lines = FileLines(TestDataPath("files/main_current_small.qel"));
+        const qsizetype at = lines.indexOf(QStringLiteral("; Audio MIDI Ports:")) + 1;
+        QCOMPARE(lines[at], QStringLiteral(" 3 "));
+        QCOMPARE(lines[at + 3], QStringLiteral(" 5 "));
+        lines[at] = QStringLiteral("none");
+        lines[at + 3] = QStringLiteral("-7 ");
+        QVERIFY(WriteBytes(path("badport.qel"), Lines1252(lines.mid(0, lines.size() - 1))));
+        FillSentinels();
+        QVERIFY(ReadMainConfigFile(path("badport.qel")));
+        const CMainConfig& c = gMainConfig;
+        QCOMPARE(c.m_iMIDIPort(0), qint16(-1));
+        QCOMPARE(c.m_iPortInOut(0), qint16(1));
+        QCOMPARE(c.m_strMIDIPortLabel(0), QStringLiteral("Synth"));
+        QCOMPARE(c.m_iInMIDIPort(0), qint16(-1));
+        QCOMPARE(c.m_strInMIDIPortLabel(0), QStringLiteral("Synth"));
+        QCOMPARE(c.m_iMIDIPort(1), qint16(-1));
+        QCOMPARE(c.m_iOutMIDIPort(0), qint16(-1));
+        QCOMPARE(c.m_strOutMIDIPortLabel(0), QStringLiteral("Drums"));
+        QCOMPARE(c.m_iFlashPort, qint16(1122));
+    }
+
+    void arduinoCommentIsReadAsAFieldThatStopsAtAComma()
+    {
+        // Without a comma the comment line is used up whole (the fixtures read);
+        // with one, what follows the comma is the first Arduino file name and
+        // every later line shifts by one.
+        QStringList lines = FileLines(TestDataPath("files/main_current_small.qel"));
+        const qsizetype at = lines.indexOf(QStringLiteral("; Arduinos Configuration Files:"));
+        QVERIFY(at > 0);
+        lines[at] = QStringLiteral("; Arduinos, Configuration Files:");
+        QVERIFY(WriteBytes(path("ardcomma.qel"), Lines1252(lines.mid(0, lines.size() - 1))));
+        FillSentinels();
+        QVERIFY(!ReadMainConfigFile(path("ardcomma.qel")));
+        QCOMPARE(gMainConfig.m_strArdDataFile(0), QStringLiteral(" Configuration Files:"));
+        QCOMPARE(gMainConfig.m_iMovieWidth, qint16(77));
+    }
+
+    void scenesFileNamedLikeTheJoystickMarkerIsMisread()
+    {
+        // With no joysticks the line after the scenes comment is the scenes file
+        // name, unless it reads "TD_BEGIN": then it opens an empty device block and
+        // the reader lands three lines further on.
+        SetNewPerformance();
+        QVERIFY(WriteMainConfigFile(path("tdname.qel")));
+        QStringList lines = FileLines(path("tdname.qel"));
+        const qsizetype at = lines.indexOf(QStringLiteral("; Scenes & Subscenes File:")) + 1;
+        QCOMPARE(lines[at], QStringLiteral("Scenes.cfg"));
+        lines[at] = QStringLiteral("TD_BEGIN");
+        QVERIFY(WriteBytes(path("tdname.qel"), Lines1252(lines.mid(0, lines.size() - 1))));
+        FillSentinels();
+        QVERIFY(!ReadMainConfigFile(path("tdname.qel")));
+        QCOMPARE(gMainConfig.m_strScenesFile, QString());
+        QCOMPARE(gMainConfig.m_strScenesFilenames, QString());
+        QCOMPARE(gMainConfig.m_strTalporFile, QStringLiteral("; Movies Width:"));
+        QCOMPARE(gMainConfig.m_iMovieWidth, qint16(77));
+    }
+
     // ---- edge cases
 
     void allCountsZeroWritesNoDeviceRowsAndReadsBackExactly()

@@ -185,8 +185,8 @@ private slots:
 
     void changedFlashCountShiftsEveryLaterLine()
     {
-        // One player more than the file holds: the "blank" after the movies
-        // is taken as a movie, and the count of parts lands on a comment.
+        // One player more than the file holds: the blank after the movies is
+        // taken as a movie, and the count of parts lands on the blank after it.
         gMainConfig.m_iNFlash = 3;
         QVERIFY(!ReadScenesFile(TestDataPath("files/scenes_three.cfg")));
         QCOMPARE(gScenes.Count(), 0);

@@ -179,6 +179,8 @@ private slots:
         freshScenes();
         QVERIFY(!readLines(lines));
         QCOMPARE(gScenes.Item(1)->PartList.Item(1)->m_VideoCapture(0)->m_iFPS, qint16(5));
+        QCOMPARE(gScenes.Item(1)->PartList.Item(1)->m_VideoCapture(1)->m_iFPS, qint16(5));   // the bad row sets nothing
+        QCOMPARE(gScenes.Item(2)->PartList.Item(1)->m_VideoCapture(0)->m_iFPS, qint16(5));   // later rows unread
     }
 
     void captureFlagFollowsTheRulesOnEverySave()

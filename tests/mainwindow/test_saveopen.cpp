@@ -1,5 +1,4 @@
-// Saving and opening a whole performance through the File menu, and the
-// auto-save when the main window closes, as an operator does them.
+// Saving and opening a whole performance through the File menu, as an operator does them.
 #include <QtTest>
 #include <QComboBox>
 #include <QDir>
@@ -405,77 +404,26 @@ private slots:
         QCOMPARE(gDirty, false);             // a failed save counts as saved
     }
 
-    void closingWritesTheAutoSaveUnderTodaysDate()
+    void aCountBeyondItsTableFailsThoseStepsAndTheSaveGoesOn()
     {
         start();
-        gMainConfig.m_strName = QStringLiteral("First close");
-        form->close();
-        const QString name = ShortDateText().replace(u'/', u' ');
-        QVERIFY(!name.contains(u'/'));
-        const QString folder = AutoSaveRoot() + QStringLiteral("/AutoSave/");
-        QCOMPARE(gConfigFolder, native(folder));
-        QCOMPARE(gConfigName, name);
-        QCOMPARE(gConfigFilePath, native(folder + name + QStringLiteral(".qel")));
-        QCOMPARE(gAutoSaved, true);
-        QVERIFY(ReadBytes(folder + name + QStringLiteral(".qel")).contains("\r\nFirst close\r\n"));
-        QVERIFY(QFileInfo::exists(folder + name + QStringLiteral("/Scenes.cfg")));
-    }
-
-    void aSecondClosingOnOneDayReplacesTheFirst()
-    {
-        start();
-        gMainConfig.m_strName = QStringLiteral("First close");
-        form->close();
-        form.reset();
-        start();
-        gMainConfig.m_strName = QStringLiteral("Second close");
-        form->close();
-        const QString name = ShortDateText().replace(u'/', u' ');
-        const QString folder = AutoSaveRoot() + QStringLiteral("/AutoSave/");
-        QCOMPARE(folderFiles(folder), QStringList{name + QStringLiteral(".qel")});
-        QVERIFY(ReadBytes(folder + name + QStringLiteral(".qel")).contains("\r\nSecond close\r\n"));
-        QVERIFY(ReadBytes(folder + name + QStringLiteral("/Scenes.cfg")).contains("\r\nSecond close\r\n"));
-    }
-
-    void aDateWithDotsKeepsThemInTheAutoSaveName()
-    {
-        QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
-        start();
-        form->close();
-        QVERIFY2(gConfigName.contains(u'.'), qPrintable(gConfigName));
-        QCOMPARE(gConfigName, QLocale().toString(QDate::currentDate(), QLocale::ShortFormat));
-        QVERIFY(QFileInfo::exists(AutoSaveRoot() + QStringLiteral("/AutoSave/") + gConfigName + QStringLiteral(".qel")));
-    }
-
-    void aDateWithSlashesGetsBlanks()
-    {
-        start();
-        form->close();
-        QVERIFY(!gConfigName.contains(u'/'));
-        QCOMPARE(gConfigName, QLocale().toString(QDate::currentDate(), QLocale::ShortFormat).replace(u'/', u' '));
-        QVERIFY(gConfigName.contains(u' '));
-    }
-
-    void cancelAtTheClosingQuestionStillAutoSavesAndKeepsTheWindow()
-    {
-        start();
-        const QString path = native(dir.filePath(QStringLiteral("Mine.qel")));
-        saveAs(path);
-        gMainConfig.m_strName = QStringLiteral("Unsaved change");
-        gDirty = true;
+        gMainConfig.m_iNExos = 3;   // only two suits have records
+        QTemporaryDir other;
+        DeriveConfigPaths(native(other.filePath(QStringLiteral("Three.qel"))));
         DialogDriver driver;
-        driver.next(answer(QMessageBox::Cancel));
-        QVERIFY(!form->close());
+        QStringList messages;
+        for (int i = 0; i < 2; ++i)
+            driver.next([&messages](QWidget* w) {
+                messages << DialogDriver::text(w);
+                DialogDriver::press(w, QMessageBox::Ok);
+            });
+        SaveConfiguration(gConfigFilePath);
         QVERIFY2(driver.finished(), qPrintable(driver.error()));
-        QVERIFY(form->isVisible());
-        const QString folder = native(AutoSaveRoot() + QStringLiteral("/AutoSave/"));
-        QVERIFY(gConfigFilePath.startsWith(folder));
-        QVERIFY(ReadBytes(gConfigFilePath).contains("\r\nUnsaved change\r\n"));
-        QVERIFY(!ReadBytes(path).contains("Unsaved change"));
-        // A later Save writes into the auto-save folder.
-        gMainConfig.m_strName = QStringLiteral("Later");
-        menu("Save")->trigger();
-        QVERIFY(ReadBytes(gConfigFilePath).contains("\r\nLater\r\n"));
+        QCOMPARE(messages, (QStringList{"Error saving main configuration!",
+                                        "Error saving exoskeleton data configuration!"}));
+        const QString folder = other.filePath(QStringLiteral("Three"));
+        QVERIFY(QFileInfo::exists(folder + QStringLiteral("/Exo2.cfg")));
+        QVERIFY(QFileInfo::exists(folder + QStringLiteral("/GlobalEvents.cfg")));
     }
 };
 
