@@ -5,6 +5,8 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFileInfo>
+#include <QHash>
+#include <QScreen>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -95,7 +97,6 @@ FormInitial::FormInitial(QWidget* parent) : QMainWindow(parent)
     buildRuleView(area);
     buildDevicePanel(area);
     connectHandlers();
-    setMinimumSize(twips(11300), twips(5775));
     resize(twips(14400), twips(10775));
     layoutControls();
 }
@@ -151,7 +152,8 @@ void FormInitial::buildRuleView(QWidget* area)
     ListMain2->setHeaderLabels({QStringLiteral("Scenes")});
     ListMain2->setRootIsDecorated(false);
     ListMain2->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    ListMain2->setStyleSheet(QStringLiteral("QTreeWidget#ListMain2 { background: #202020; }"));
+    // A mid grey on which the default light grey, black and every palette colour read.
+    ListMain2->setStyleSheet(QStringLiteral("QTreeWidget#ListMain2 { background: #8C8C8C; }"));
 
     CommandAddScene = named(new QPushButton(QStringLiteral("Add Scene"), area), QStringLiteral("CommandAddScene"));
     CommandEdit = named(new QPushButton(QStringLiteral("Edit Scene/Subscene"), area), QStringLiteral("CommandEdit"));
@@ -183,12 +185,17 @@ void FormInitial::buildRuleView(QWidget* area)
                                  QStringLiteral("Movies Interaction"), QStringLiteral("Arduino Interaction"),
                                  QStringLiteral("OSC Interaction")};
     for (int i = 0; i < filters.size(); ++i) {
-        auto* b = named(new QPushButton(filters[i].section(u' ', 0, 0), area), arrayName(QStringLiteral("CommandTargetsFilt"), i));
+        auto* b = named(new QPushButton(filters[i], area), arrayName(QStringLiteral("CommandTargetsFilt"), i));
         b->setToolTip(filters[i]);
         CommandTargetsFilt << b;
     }
     ListEvents = named(new QTreeWidget(area), QStringLiteral("ListEvents"));
     SetupRuleListColumns(ListEvents);
+    // Scene commands and colours still to come are shown but not offered.
+    for (QPushButton* b : {CommandAddScene, CommandEdit, CommandDelete, CommandBots, CommandShowConfig})
+        b->setEnabled(false);
+    for (QPushButton* b : CommandColor)
+        b->setEnabled(false);
     ListEvents->setRootIsDecorated(false);
     ListEvents->setSelectionMode(QAbstractItemView::ExtendedSelection);
     const int widths[7] = {40, 60, 60, 50, 90, 140, 300};
@@ -269,35 +276,56 @@ void FormInitial::connectHandlers()
     connect(TextSearched, &QComboBox::activated, this, &FormInitial::TextSearched_Change);
     connect(TextSearched->lineEdit(), &QLineEdit::textEdited, this, &FormInitial::TextSearched_Change);
 
-    qint16* members[8] = {&gMainConfig.m_iNExos, &gMainConfig.m_iNTotems, &gMainConfig.m_iNOSCs,
-                          &gMainConfig.m_iNArduinos, &gMainConfig.m_iNQDMs, &gMainConfig.m_iNFlash,
-                          &gMainConfig.m_iNMIDIs, &gMainConfig.m_iNVideoCaps};
-    for (int i = 0; i < 8; ++i) {
-        QComboBox* combo = m_countCombos[i];
-        qint16* member = members[i];
-        const bool always = combo == ComboNMIDI || combo == ComboNVideoCaps;
-        connect(combo, &QComboBox::activated, this, [this, combo, member, always] { deviceCountActivated(combo, *member, always); });
+    connect(ComboNExos, &QComboBox::activated, this, &FormInitial::ComboNExos_Click);
+    connect(ComboNTotems, &QComboBox::activated, this, &FormInitial::ComboNTotems_Click);
+    connect(ComboNOSCs, &QComboBox::activated, this, &FormInitial::ComboNOSCs_Click);
+    connect(ComboNArduinos, &QComboBox::activated, this, &FormInitial::ComboNArduinos_Click);
+    connect(ComboNScreens, &QComboBox::activated, this, &FormInitial::ComboNScreens_Click);
+    connect(ComboNFlash, &QComboBox::activated, this, &FormInitial::ComboNFlash_Click);
+    connect(ComboNMIDI, &QComboBox::activated, this, &FormInitial::ComboNMIDI_Click);
+    connect(ComboNVideoCaps, &QComboBox::activated, this, &FormInitial::ComboNVideoCaps_Click);
+    connect(ExoskeletonsCalibration, &QPushButton::clicked, this, &FormInitial::ExoskeletonsCalibration_Click);
+    connect(ArduinoConfig, &QPushButton::clicked, this, &FormInitial::ArduinoConfig_Click);
+    connect(CommandOSC, &QPushButton::clicked, this, &FormInitial::CommandOSC_Click);
+    connect(CommandFlash, &QPushButton::clicked, this, &FormInitial::CommandFlash_Click);
+    connect(CommandPorts, &QPushButton::clicked, this, &FormInitial::CommandPorts_Click);
+    connect(CommandScreen, &QPushButton::clicked, this, &FormInitial::CommandScreen_Click);
+    for (int i = 0; i < CheckSource.size(); ++i)
+        connect(CheckSource[i], &QCheckBox::clicked, this, [this, i] { CheckSource_Click(i); });
+    for (int i = 0; i < CheckTarget.size(); ++i)
+        connect(CheckTarget[i], &QCheckBox::clicked, this, [this, i] { CheckTarget_Click(i); });
+}
+
+// A click in a count's list: the count takes the list index when it differs
+// (always, for MIDI and video capture), and the performance counts as changed.
+void FormInitial::ComboNExos_Click() { deviceCountActivated(ComboNExos, gMainConfig.m_iNExos, false); }
+void FormInitial::ComboNTotems_Click() { deviceCountActivated(ComboNTotems, gMainConfig.m_iNTotems, false); }
+void FormInitial::ComboNOSCs_Click() { deviceCountActivated(ComboNOSCs, gMainConfig.m_iNOSCs, false); }
+void FormInitial::ComboNArduinos_Click() { deviceCountActivated(ComboNArduinos, gMainConfig.m_iNArduinos, false); }
+void FormInitial::ComboNScreens_Click() { deviceCountActivated(ComboNScreens, gMainConfig.m_iNQDMs, false); }
+void FormInitial::ComboNFlash_Click() { deviceCountActivated(ComboNFlash, gMainConfig.m_iNFlash, false); }
+void FormInitial::ComboNMIDI_Click() { deviceCountActivated(ComboNMIDI, gMainConfig.m_iNMIDIs, true); }
+void FormInitial::ComboNVideoCaps_Click() { deviceCountActivated(ComboNVideoCaps, gMainConfig.m_iNVideoCaps, true); }
+
+bool FormInitial::devicesToConfigure(int count, const char* message)
+{
+    if (count == 0) {
+        MsgBoxExclamation(QString::fromLatin1(message));
+        return false;
     }
-    struct NoneMessage {
-        QPushButton* button;
-        QComboBox* combo;
-        const char* text;
-    };
-    const NoneMessage messages[6] = {
-        {ExoskeletonsCalibration, nullptr, "No Exoskeletons!"},
-        {ArduinoConfig, ComboNArduinos, "No Arduinos!"},
-        {CommandOSC, ComboNOSCs, "No OSC connections!"},
-        {CommandFlash, ComboNFlash, "No Flash players!"},
-        {CommandPorts, ComboNMIDI, "No MIDI devices to configure!"},
-        {CommandScreen, ComboNScreens, "No QEL Display Managers to configure!"},
-    };
-    for (const NoneMessage& m : messages) {
-        connect(m.button, &QPushButton::clicked, this, [m] {
-            const int count = m.combo ? m.combo->currentIndex() : gMainConfig.m_iNExos;
-            if (count <= 0)
-                MsgBoxExclamation(QString::fromLatin1(m.text));
-        });
-    }
+    return true;
+}
+
+// The device dialogs themselves come with their own forms; until then a button
+// only says when there is nothing to configure.
+void FormInitial::ExoskeletonsCalibration_Click() { devicesToConfigure(gMainConfig.m_iNExos, "No Exoskeletons!"); }
+void FormInitial::ArduinoConfig_Click() { devicesToConfigure(ComboNArduinos->currentIndex(), "No Arduinos!"); }
+void FormInitial::CommandOSC_Click() { devicesToConfigure(ComboNOSCs->currentIndex(), "No OSC connections!"); }
+void FormInitial::CommandFlash_Click() { devicesToConfigure(ComboNFlash->currentIndex(), "No Flash players!"); }
+void FormInitial::CommandPorts_Click() { devicesToConfigure(ComboNMIDI->currentIndex(), "No MIDI devices to configure!"); }
+void FormInitial::CommandScreen_Click()
+{
+    devicesToConfigure(ComboNScreens->currentIndex(), "No QEL Display Managers to configure!");
 }
 
 void FormInitial::deviceCountActivated(QComboBox* combo, qint16& member, bool always)
@@ -319,6 +347,9 @@ void FormInitial::Form_Load()
     gMainConfig.m_bUpdate = false;
     const qint64 start = GetTickCount();
     auto* splash = new FormEntry(this);
+    splash->adjustSize();
+    if (const QScreen* screen = QApplication::primaryScreen())
+        splash->move(screen->availableGeometry().center() - splash->rect().center());
     splash->show();
     gGlobalRuleView = false;
     ListGlobalRules->clear();
@@ -389,7 +420,7 @@ void FormInitial::layoutControls()
     TextSearched->setGeometry(left2 + 90, 126, 200, 24);
     CommandAdd->setGeometry(left2 + 300, 125, 130, 26);
     for (int i = 0; i < CommandTargetsFilt.size(); ++i)
-        CommandTargetsFilt[i]->setGeometry(w - right - (CommandTargetsFilt.size() - i) * 62, 50, 60, 24);
+        CommandTargetsFilt[i]->setGeometry(w - right - (CommandTargetsFilt.size() - i) * 122, 50, 120, 24);
     ListEvents->setGeometry(left2, 156, w - left2 - right, h - 156 - belowRules);
 
     // Device view.
@@ -693,6 +724,91 @@ void FormInitial::CommandConn_Click()
 {
     setDevicePanelVisible(false);
     setRuleViewVisible(true);
+    ArrangeFilterChecks();
+}
+
+namespace {
+
+// Filter entry of a check box caption; -1 for a caption with no entry.
+int sourceFilterEntry(const QString& caption)
+{
+    static const QHash<QString, int> entries = {{"AUT", 0}, {"EXO", 1}, {"TOT", 2}, {"FLA", 3}, {"DIO", 5},
+                                                {"MIDI", 6}, {"ARD", 7}, {"OSC", 8}, {"QEL", 9}};
+    return entries.value(caption, -1);
+}
+
+int targetFilterEntry(const QString& caption)
+{
+    static const QHash<QString, int> entries = {{"FLA", 3}, {"MIDI", 6}, {"ARD", 7}, {"OSC", 8}, {"QEL", 9}};
+    return entries.value(caption, -1);
+}
+
+// Captions a row of boxes in order and places each right of the one before,
+// the first right of its heading. A box keeps its checked state.
+void arrangeRow(QLabel* heading, const QList<QCheckBox*>& boxes, const QStringList& captions)
+{
+    int left = heading->x() + heading->width();
+    for (int i = 0; i < boxes.size(); ++i) {
+        QCheckBox* box = boxes[i];
+        if (i < captions.size()) {
+            box->setText(captions[i]);
+            box->setGeometry(left, heading->y(), 62, heading->height());
+            left = box->x() + box->width();
+            box->show();
+        } else {
+            box->hide();
+        }
+    }
+    heading->show();
+}
+
+} // namespace
+
+void FormInitial::ArrangeFilterChecks()
+{
+    const CMainConfig& c = gMainConfig;
+    QStringList sources = {QStringLiteral("AUT"), QStringLiteral("QEL")};
+    if (c.m_iNExos > 0) sources << QStringLiteral("EXO");
+    if (c.m_iNTotems > 0) sources << QStringLiteral("TOT");
+    if (c.m_iNFlash > 0) sources << QStringLiteral("FLA");
+    sources << QStringLiteral("DIO");
+    if (c.m_iNMIDIs > 0) sources << QStringLiteral("MIDI");
+    if (c.m_iNArduinos > 0) sources << QStringLiteral("ARD");
+    if (c.m_iNOSCs > 0) sources << QStringLiteral("OSC");
+    arrangeRow(Label1, CheckSource, sources);
+
+    QStringList targets = {QStringLiteral("QEL")};
+    if (c.m_iNFlash > 0) targets << QStringLiteral("FLA");
+    if (c.m_iNMIDIs > 0) targets << QStringLiteral("MIDI");
+    if (c.m_iNArduinos > 0) targets << QStringLiteral("ARD");
+    if (c.m_iNOSCs > 0) targets << QStringLiteral("OSC");
+    if (c.m_iNVideoCaps > 0) targets << QStringLiteral("VCAP");
+    arrangeRow(Label3, CheckTarget, targets);
+}
+
+void FormInitial::CheckSource_Click(int index)
+{
+    QCheckBox* box = CheckSource[index];
+    if (const int entry = sourceFilterEntry(box->text()); entry >= 0)
+        gSourceFilter(entry) = box->isChecked();
+    refillRuleList();
+}
+
+void FormInitial::CheckTarget_Click(int index)
+{
+    QCheckBox* box = CheckTarget[index];
+    if (const int entry = targetFilterEntry(box->text()); entry >= 0)
+        gTargetFilter(entry) = box->isChecked();
+    refillRuleList();
+}
+
+void FormInitial::refillRuleList()
+{
+    try {
+        FillRuleList(gCurrentScene + 1, gCurrentPart + 1, ListEvents);
+    } catch (const RuntimeError&) {
+        // No such scene or subscene: the list stays as it was.
+    }
 }
 
 void FormInitial::CommandRules_Click()
@@ -850,9 +966,5 @@ void FormInitial::RefreshRuleView()
             LabelName->hide();
         }
     }
-    try {
-        FillRuleList(gCurrentScene + 1, gCurrentPart + 1, ListEvents);
-    } catch (const RuntimeError&) {
-        // No such scene or subscene: the list stays as it was.
-    }
+    refillRuleList();
 }

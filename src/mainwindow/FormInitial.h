@@ -123,6 +123,26 @@ public:
     void CommandLock_Click();
     void txtEvPerSec_Change();
 
+    // Captions and places the filter check boxes by the devices that exist.
+    void ArrangeFilterChecks();
+    void CheckSource_Click(int index);
+    void CheckTarget_Click(int index);
+
+    void ComboNExos_Click();
+    void ComboNTotems_Click();
+    void ComboNOSCs_Click();
+    void ComboNArduinos_Click();
+    void ComboNScreens_Click();
+    void ComboNFlash_Click();
+    void ComboNMIDI_Click();
+    void ComboNVideoCaps_Click();
+    void ExoskeletonsCalibration_Click();
+    void ArduinoConfig_Click();
+    void CommandOSC_Click();
+    void CommandFlash_Click();
+    void CommandPorts_Click();
+    void CommandScreen_Click();
+
     void ListMain2_Click();
     void ListGlobalRules_Click();
     void TextSearched_Change();
@@ -142,6 +162,9 @@ private:
     void setDevicePanelVisible(bool visible);
     void setDevicePanelEnabled(bool enabled);
     void deviceCountActivated(QComboBox* combo, qint16& member, bool always);
+    // The number of devices a dialog button would configure; 0 shows `message` and opens nothing.
+    bool devicesToConfigure(int count, const char* message);
+    void refillRuleList();
     // Appends a scene as the Add command does with no scene row selected.
     void appendScene(const std::shared_ptr<class CScene>& scene);
     void layoutControls();

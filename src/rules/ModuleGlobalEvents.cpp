@@ -1,8 +1,6 @@
 #include "rules/ModuleGlobalEvents.h"
 #include "rules/ModuleEvents.h"
-#include "support/Convert.h"
 #include "support/ModuleGUI.h"
-#include "support/NumberText.h"
 #include "support/RuntimeError.h"
 #include "support/TextFile.h"
 
@@ -37,26 +35,10 @@ void CopyGlobalEvent(CEvent& target, const CEvent& source) { CopyEvent(target, s
 QString BuildGlobalEventText(int rule)
 {
     CEvent& event = *gGlobalEvents.Item(rule);
-    QString line;
-    if (event.m_strRemarks.isEmpty())
-        event.m_strRemarks = QStringLiteral(" ");   // stored back, as every field written as " "
-    line += event.m_strRemarks + u';';
-    line += TypeToFileToken(event.m_iSourceType) + u';';
-    line += DeviceToToken(event.m_iSource, event.m_iSourceType) + u';';
-    // The item: as in Events.cfg, except that Automatic rules never carry their variable.
-    switch (event.m_iSourceType) {
-    case 0: line += QStringLiteral(" "); break;
-    case 1: line += ExoItemToCode(event.m_iItem); break;
-    case 2: line += TotemItemToCode(event.m_iItem, event.m_iSource); break;
-    case 3:
-    case 8: line += event.m_strVariable; break;
-    case 5:
-    case 6:
-    case 7: line += QString::number(event.m_iItem); break;
-    default: line += QStringLiteral("ERROR"); break;
-    }
-    line += u';';
-    return line + BuildRuleBlockTail(event);
+    QString text;
+    // As in Events.cfg without the place fields, except that Automatic rules never carry their variable.
+    AppendRuleBlock(text, event, false);
+    return text;
 }
 
 bool WriteGlobalEventsFile(const QString& path)
@@ -67,8 +49,12 @@ bool WriteGlobalEventsFile(const QString& path)
         file.PrintLine(QStringLiteral("; QEL Global Events Configuration File"));
         file.PrintLine(QStringLiteral(";-----------------------------------------------------"));
         file.PrintLine(QString());
-        for (int i = 1; i <= gGlobalEvents.Count(); ++i)
-            file.PrintLine(BuildGlobalEventText(i));
+        QString block;   // one buffer for every block, kept at its largest size
+        for (int i = 1; i <= gGlobalEvents.Count(); ++i) {
+            block.resize(0);
+            AppendRuleBlock(block, *gGlobalEvents.Item(i), false);
+            file.PrintLine(block);
+        }
         file.Close();
         return true;
     } catch (const std::exception&) {
@@ -81,21 +67,7 @@ bool ParseGlobalEvent(TextFileReader& file, const QString& line, CEvent& event)
     try {
         if (line.size() < 4)
             return true;
-        int pos = 1;
-        const QString remarks = GetNextField(line, pos);
-        event.m_strRemarks = remarks == u" " ? QString() : remarks;
-        event.m_bEnabled = true;
-        event.m_iSourceType = FileTokenToType(GetNextField(line, pos));
-        event.m_iSource = TokenToDevice(GetNextField(line, pos));
-        const QString item = GetNextField(line, pos);
-        if (event.m_iSourceType != 0) {
-            event.m_iItem = TextToItem(item, event.m_iSourceType, event.m_iSource);
-            if (event.m_iItem == -1 && IsNumberText(item))
-                event.m_iItem = ToInteger(item);
-        }
-        if (event.m_iSourceType == 3 || event.m_iSourceType == 8)
-            event.m_strVariable = item;
-        return ParseRuleBlockTail(file, line, pos, event);
+        return ParseRuleBlock(file, line, 0, event, false);
     } catch (const std::exception&) {
         return false;
     }

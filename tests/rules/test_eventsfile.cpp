@@ -1,6 +1,7 @@
 // Events.cfg: the rules of every subscene as text, written and read back.
 #include <QtTest>
 #include <QTemporaryDir>
+#include "model/CArduinoData.h"
 #include "model/CScene.h"
 #include "model/ModuleGlobals.h"
 #include "rules/ModuleEvents.h"
@@ -102,6 +103,7 @@ private slots:
         gTotemAxes(0) = 4;
         gTotemAxes(1) = 2;
         gMaxEventsPerPart = 0;
+        InitArduinoData();
     }
 
     // --- the worked example and the golden files ---
@@ -666,6 +668,18 @@ private slots:
         QCOMPARE(scene, qint16(-1));
         QCOMPARE(part, qint16(-1));
         QCOMPARE(file.LineInput(), QStringLiteral("next"));   // nothing more was read
+    }
+
+    void arduinoItemBeyondTheIntegerRangeMakesTheReadingFail()
+    {
+        gArduinoData(0).m_iNumAnalogInputs = 8;
+        QByteArray bytes = ReadBytes(TestDataPath(QStringLiteral("rules/WorkedExample.cfg")));
+        bytes.replace(";EXO;1;CI;", ";ARD;1;Digital 32760;");
+        WriteBytes(path(), bytes);
+        bool result = true;
+        QCOMPARE(readFailing({1}, &result), QStringLiteral("Error opening events configuration file!\r\nScene: 1 Part: 1"));
+        QVERIFY(!result);
+        QCOMPARE(RulesOf(0, 0).Count(), 0);
     }
 
     void booleansAreTrueForAnyNonZeroNumber()

@@ -5,6 +5,7 @@
 #include "rules/CEvent.h"
 #include "rules/ModuleEvents.h"
 #include "support/NumberText.h"
+#include "support/RuntimeError.h"
 #include "rules/RuleTestHelpers.h"
 
 class TestVocabulary : public QObject {
@@ -159,6 +160,29 @@ private slots:
     {
         gTotemAxes(0) = 6;
         QCOMPARE(TotemItemToCode(-1, 0), QStringLiteral("-"));
+        // more axes than there are axis codes: the items between 6 and the axis count have no code
+        gTotemAxes(0) = 8;
+        QCOMPARE(TotemItemToCode(5, 0), QStringLiteral("ARZ"));
+        QCOMPARE(TotemItemToCode(6, 0), QStringLiteral("-"));
+        QCOMPARE(TotemItemToCode(7, 0), QStringLiteral("-"));
+        QCOMPARE(TotemItemToCode(8, 0), QStringLiteral("S1"));
+    }
+
+    void joystickButtonBeyondTheIntegerRangeIsAnOverflow()
+    {
+        gTotemAxes(0) = 32766;
+        QCOMPARE(TextToItem(QStringLiteral("S2"), 2, 0), qint16(32767));
+        QVERIFY_THROWS_EXCEPTION(ConversionError, TextToItem(QStringLiteral("S3"), 2, 0));
+        QVERIFY_THROWS_EXCEPTION(ConversionError, TextToItem(QStringLiteral("Sensor 12"), 2, 0));
+    }
+
+    void arduinoDigitalLineBeyondTheIntegerRangeIsAnOverflow()
+    {
+        gArduinoData(0).m_iNumAnalogInputs = 8;
+        QCOMPARE(TextToItem(QStringLiteral("Digital 32759"), 7, 0), qint16(32767));
+        QVERIFY_THROWS_EXCEPTION(ConversionError, TextToItem(QStringLiteral("Digital 32760"), 7, 0));
+        CAction action;
+        QVERIFY(!ParseAction(action, QStringLiteral("ttype;ARD;target;1;item;Digital 32760;channel;-1;val1; ;val2; ;min; ;max; ;midifile; ;action;0;")));
     }
 
     // --- MIDI, Arduino, digital input, others ---
