@@ -11,6 +11,7 @@ TextFileWriter::TextFileWriter(const QString& path) : m_file(path)
 {
     if (!m_file.open(QIODevice::WriteOnly | QIODevice::Truncate))
         throw FileError(QStringLiteral("Cannot create %1: %2").arg(path, m_file.errorString()));
+    m_buffer.reserve(kFlushSize + 4096);
 }
 
 TextFileWriter::~TextFileWriter()
@@ -43,7 +44,7 @@ void TextFileWriter::flush()
 {
     if (m_file.write(m_buffer) != m_buffer.size())
         throw FileError(QStringLiteral("Cannot write %1: %2").arg(m_file.fileName(), m_file.errorString()));
-    m_buffer.clear();
+    m_buffer.resize(0);   // keeps the allocation for the next lines
 }
 
 void TextFileWriter::Close()
