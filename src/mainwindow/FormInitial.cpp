@@ -442,13 +442,8 @@ void FormInitial::layoutControls()
 
 void FormInitial::New_Click()
 {
-    if (gDirty) {
-        const MsgAnswer answer = MsgBox(QStringLiteral("Save Configuration?"), MsgButtons::YesNoCancel, MsgIcon::Question);
-        if (answer == MsgAnswer::Cancel)
-            return;
-        if (answer == MsgAnswer::Yes)
-            Save_Click();
-    }
+    if (gDirty && AskToSave() == MsgAnswer::Cancel)
+        return;
     CMainConfig& cfg = gMainConfig;
     cfg.m_bUpdate = false;
     gConfigFilePath.clear();
@@ -591,13 +586,8 @@ void FormInitial::SaveAs_Click()
 
 void FormInitial::Open_Click()
 {
-    if (gDirty) {
-        const MsgAnswer answer = MsgBox(QStringLiteral("Save Configuration?"), MsgButtons::YesNoCancel, MsgIcon::Question);
-        if (answer == MsgAnswer::Cancel)
-            return;
-        if (answer == MsgAnswer::Yes)
-            Save_Click();
-    }
+    if (gDirty && AskToSave() == MsgAnswer::Cancel)
+        return;
     const QString path = ShowOpenDialog(this, QStringLiteral("TheCommonDialog"), kConfigFilter, kConfigExtension);
     if (path.isEmpty())
         return;
@@ -630,6 +620,14 @@ void FormInitial::appendScene(const std::shared_ptr<CScene>& scene)
     ++gLastScene;
     for (int index = gCurrentScene + 1; index <= gLastScene; ++index)
         ++gScenes.Item(index + 1)->m_iID;
+}
+
+MsgAnswer FormInitial::AskToSave()
+{
+    const MsgAnswer answer = MsgBox(QStringLiteral("Save Configuration?"), MsgButtons::YesNoCancel, MsgIcon::Question);
+    if (answer == MsgAnswer::Yes)
+        Save_Click();
+    return answer;
 }
 
 void FormInitial::ShowMainCfg() { TextName->setText(gMainConfig.m_strName); }
@@ -666,14 +664,7 @@ void FormInitial::closeEvent(QCloseEvent* event)
 
 bool FormInitial::Form_Unload()
 {
-    bool refused = false;
-    if (gDirty) {
-        const MsgAnswer answer = MsgBox(QStringLiteral("Save Configuration?"), MsgButtons::YesNoCancel, MsgIcon::Question);
-        if (answer == MsgAnswer::Yes)
-            Save_Click();
-        else if (answer == MsgAnswer::Cancel)
-            refused = true;
-    }
+    const bool refused = gDirty && AskToSave() == MsgAnswer::Cancel;
     // The auto-save, in every case: named after today's date, so one a day.
     const QString dateName = ShortDateText().replace(u'/', u' ');
     const QString root = AutoSaveRoot();

@@ -5,6 +5,7 @@
 #include <QMainWindow>
 #include <QString>
 #include <memory>
+#include "support/ModuleGUI.h"
 
 class QAction;
 class QCheckBox;
@@ -105,6 +106,8 @@ public:
     // The closing steps; returns false when the close was refused.
     bool Form_Unload();
 
+    // "Save Configuration?" with Yes, No and Cancel; Yes saves. Returns the answer.
+    MsgAnswer AskToSave();
     void New_Click();
     void Open_Click();
     void Save_Click();

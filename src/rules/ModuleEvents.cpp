@@ -447,19 +447,9 @@ qint16 FileTokenToType(const QString& text) { return fileTokenToType(text); }
 
 QString TypeToListToken(qint16 type)
 {
-    switch (type) {
-    case 0: return QStringLiteral("AUTO");
-    case 1: return QStringLiteral("EXO");
-    case 2: return QStringLiteral("TOT");
-    case 3: return QStringLiteral("FLA");
-    case 5: return QStringLiteral("DIO");
-    case 6: return QStringLiteral("MIDI");
-    case 7: return QStringLiteral("ARD");
-    case 8: return QStringLiteral("OSC");
-    case 9: return QStringLiteral("QEL");
-    case 10: return QStringLiteral("VCAP");
-    default: return QStringLiteral("UND");
-    }
+    // The list says "UND" where the file writes nothing: for 4 and for any unknown number.
+    const QString token = TypeToFileToken(type);
+    return token.isEmpty() ? QStringLiteral("UND") : token;
 }
 
 QString InterTypeToListToken(qint16 interType)

@@ -17,58 +17,21 @@
 #include "support/DialogDriver.h"
 #include "support/Platform.h"
 #include "support/TestData.h"
-
-namespace {
-
-QString native(const QString& path) { return QDir::toNativeSeparators(path); }
-
-QStringList folderFiles(const QString& folder)
-{
-    QStringList names = QDir(folder).entryList(QDir::Files, QDir::Name);
-    return names;
-}
-
-auto answer(QMessageBox::StandardButton button)
-{
-    return [button](QWidget* w) { DialogDriver::press(w, button); };
-}
-
-} // namespace
+#include "mainwindow/MainWindowSession.h"
 
 class TestAutoSave : public QObject {
     Q_OBJECT
 private:
-    std::unique_ptr<FormInitial> form;
+    MainWindowSession session;
+    std::unique_ptr<FormInitial>& form = session.form;
     QTemporaryDir dir;
 
-    void start()
-    {
-        form = std::make_unique<FormInitial>();
-        form->Form_Load();
-        form->show();
-        gMainConfig.m_strLocalIPAddress = QStringLiteral("192.168.1.10");
-    }
-    QAction* menu(const char* name) { return form->findChild<QAction*>(QString::fromLatin1(name)); }
-
-    // Save As through the menu and the file dialog.
-    void saveAs(const QString& path)
-    {
-        DialogDriver driver;
-        driver.next([path](QWidget* w) { DialogDriver::chooseFile(w, path); });
-        menu("SaveAs")->trigger();
-        QVERIFY2(driver.finished(), qPrintable(driver.error()));
-    }
+    void start() { session.start(); }
+    QAction* menu(const char* name) { return session.menu(name); }
+    void saveAs(const QString& path) { session.saveAs(path); }
     void open(const QString& path, QStringList* messages = nullptr, int expectedMessages = 0)
     {
-        DialogDriver driver;
-        driver.next([path](QWidget* w) { DialogDriver::chooseFile(w, path); });
-        for (int i = 0; i < expectedMessages; ++i)
-            driver.next([messages](QWidget* w) {
-                *messages << DialogDriver::text(w);
-                DialogDriver::press(w, QMessageBox::Ok);
-            });
-        menu("Open")->trigger();
-        QVERIFY2(driver.finished(), qPrintable(driver.error()));
+        session.open(path, messages, expectedMessages);
     }
 
 private slots:
@@ -79,11 +42,7 @@ private slots:
     }
     void cleanup()
     {
-        gDirty = false;
-        if (form) {
-            form->hide();
-            form.reset();
-        }
+        session.stop();
         QDir(AutoSaveRoot() + QStringLiteral("/AutoSave")).removeRecursively();
     }
 
