@@ -38,7 +38,7 @@ bool bPanelLocked = false;
 
 namespace {
 
-// Positions in the old units: 15 twips to a pixel.
+// Sizes are given in twips, 15 to a pixel.
 constexpr int twips(int t) { return t / 15; }
 
 template <typename W>
