@@ -14,6 +14,12 @@
 #include "model/CMainConfig.h"
 #include "model/CScene.h"
 #include "model/ModuleGlobals.h"
+#include "model/CArduinoData.h"
+#include "model/CExoData.h"
+#include "rules/CEvent.h"
+#include "rules/ModuleEvents.h"
+#include "rules/ModuleGlobalEvents.h"
+#include "rules/ModuleRuleDisplay.h"
 #include "support/DialogDriver.h"
 #include "support/ModuleGUI.h"
 
@@ -229,6 +235,42 @@ private slots:
         QCOMPARE(gNDigitalIO, qint32(1));
         QCOMPARE(gScenes.Item(1)->m_strRemarks, QStringLiteral("My first and only scene"));
         QCOMPARE(gLastScene, qint16(0));
+    }
+
+    void newResetsTheDevicesAndRulesAndLeavesWhatItDoesNotName()
+    {
+        start();
+        auto global = std::make_shared<CEvent>();
+        global->m_MsgOut = std::make_shared<Collection<CAction>>();
+        global->m_MsgOut->Add(std::make_shared<CAction>());
+        AddGlobalEvent(global, 0);
+        gMaxEventsPerPart = 5;
+        gMovieEventCount = 3;
+        gExoData(0).m_iMax(0) = 1;
+        gArduinoData(3).m_strLabel = QStringLiteral("Left glove");
+        gMainConfig.m_bFlashUDPEnabled = true;
+        gMainConfig.m_strFlashBroadcastIP = QStringLiteral("10.0.0.255");
+        gMainConfig.m_iNAppPerQDM(8) = 7;
+        gMainConfig.m_iTotemDevice(4) = 9;
+        gGlobalRuleView = true;
+        FillRuleList(0, 0, form->findChild<QTreeWidget*>(QStringLiteral("ListEvents")));
+        gGlobalRuleView = false;
+        QCOMPARE(form->findChild<QTreeWidget*>(QStringLiteral("ListEvents"))->topLevelItemCount(), 2);
+
+        menuEntry(*form, QStringLiteral("New"))->trigger();   // nothing changed that counts: no question
+        QCOMPARE(gGlobalEvents.Count(), 0);
+        QCOMPARE(gMaxEventsPerPart, qint16(0));
+        QCOMPARE(gMovieEventCount, qint16(0));
+        QCOMPARE(gExoData(0).m_iMax(0), qint16(255));
+        QCOMPARE(gArduinoData(3).m_strLabel, QStringLiteral("Arduino 4"));
+        QCOMPARE(gMainConfig.m_bFlashUDPEnabled, true);
+        QCOMPARE(gMainConfig.m_strFlashBroadcastIP, QStringLiteral("10.0.0.255"));
+        QCOMPARE(gMainConfig.m_iNAppPerQDM(8), qint16(7));
+        QCOMPARE(gMainConfig.m_iTotemDevice(4), qint16(9));
+        // The rule list now shows the new scene's empty subscene.
+        auto* rules = form->findChild<QTreeWidget*>(QStringLiteral("ListEvents"));
+        QCOMPARE(rules->topLevelItemCount(), 1);
+        QCOMPARE(rules->topLevelItem(0)->text(0), QString());
     }
 
     void nameDialogWithAnEmptyBoxKeepsTheNameAndMarksChanged()
