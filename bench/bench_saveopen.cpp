@@ -21,6 +21,7 @@
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QTimer>
+#include "support/Platform.h"
 #include "files/ModuleArduinoData.h"
 #include "files/ModuleBotEvents.h"
 #include "files/ModuleConfig.h"
@@ -390,8 +391,6 @@ void printBreakdown(const QString& mainFile)
          }},
         {"VideoCapture.cfg", [&] { failed(ReadVideoCaptureFile(file(QStringLiteral("VideoCapture.cfg"))), "VideoCapture.cfg"); }},
     });
-    std::printf("  (the first large allocation after freeing the scenes, the buffer of Scenes.cfg, also pays\n"
-                "   the allocator's deferred tidying of the memory just freed)\n");
     if (countRules() != rules)
         std::printf("WARNING: after the open steps %d rules, expected %d\n", countRules(), rules);
 }
@@ -401,6 +400,7 @@ void printBreakdown(const QString& mainFile)
 int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    ConfigureMemoryAllocator();   // as the program does at start
     QApplication app(argc, argv);
     QTimer dismisser;
     QObject::connect(&dismisser, &QTimer::timeout, &dismissMessageBoxes);

@@ -4,6 +4,9 @@
 #include <QDir>
 #include <QLocale>
 #include <QNetworkInterface>
+#if defined(__GLIBC__)
+#include <malloc.h>
+#endif
 
 QString LocalIPAddress()
 {
@@ -28,3 +31,10 @@ QString ShortDateText() { return QLocale().toString(QDate::currentDate(), QLocal
 bool MakeDirectory(const QString& path) { return QDir().mkdir(path); }
 
 QString PathSeparator() { return QString(QDir::separator()); }
+
+void ConfigureMemoryAllocator()
+{
+#if defined(__GLIBC__)
+    mallopt(M_MXFAST, 0);
+#endif
+}
