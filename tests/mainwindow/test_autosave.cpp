@@ -26,14 +26,6 @@ private:
     std::unique_ptr<FormInitial>& form = session.form;
     QTemporaryDir dir;
 
-    void start() { session.start(); }
-    QAction* menu(const char* name) { return session.menu(name); }
-    void saveAs(const QString& path) { session.saveAs(path); }
-    void open(const QString& path, QStringList* messages = nullptr, int expectedMessages = 0)
-    {
-        session.open(path, messages, expectedMessages);
-    }
-
 private slots:
     void init()
     {
@@ -48,7 +40,7 @@ private slots:
 
     void closingWritesTheAutoSaveUnderTodaysDate()
     {
-        start();
+        session.start();
         gMainConfig.m_strName = QStringLiteral("First close");
         form->close();
         const QString name = ShortDateText().replace(u'/', u' ');
@@ -64,11 +56,11 @@ private slots:
 
     void aSecondClosingOnOneDayReplacesTheFirst()
     {
-        start();
+        session.start();
         gMainConfig.m_strName = QStringLiteral("First close");
         form->close();
         form.reset();
-        start();
+        session.start();
         gMainConfig.m_strName = QStringLiteral("Second close");
         form->close();
         const QString name = ShortDateText().replace(u'/', u' ');
@@ -81,7 +73,7 @@ private slots:
     void aDateWithDotsKeepsThemInTheAutoSaveName()
     {
         QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
-        start();
+        session.start();
         form->close();
         QVERIFY2(gConfigName.contains(u'.'), qPrintable(gConfigName));
         QCOMPARE(gConfigName, QLocale().toString(QDate::currentDate(), QLocale::ShortFormat));
@@ -90,7 +82,7 @@ private slots:
 
     void aDateWithSlashesGetsBlanks()
     {
-        start();
+        session.start();
         form->close();
         QVERIFY(!gConfigName.contains(u'/'));
         QCOMPARE(gConfigName, QLocale().toString(QDate::currentDate(), QLocale::ShortFormat).replace(u'/', u' '));
@@ -99,9 +91,9 @@ private slots:
 
     void cancelAtTheClosingQuestionStillAutoSavesAndKeepsTheWindow()
     {
-        start();
+        session.start();
         const QString path = native(dir.filePath(QStringLiteral("Mine.qel")));
-        saveAs(path);
+        session.saveAs(path);
         gMainConfig.m_strName = QStringLiteral("Unsaved change");
         gDirty = true;
         DialogDriver driver;
@@ -115,7 +107,7 @@ private slots:
         QVERIFY(!ReadBytes(path).contains("Unsaved change"));
         // A later Save writes into the auto-save folder.
         gMainConfig.m_strName = QStringLiteral("Later");
-        menu("Save")->trigger();
+        session.menu("Save")->trigger();
         QVERIFY(ReadBytes(gConfigFilePath).contains("\r\nLater\r\n"));
     }
 };

@@ -26,14 +26,6 @@ private:
     std::unique_ptr<FormInitial>& form = session.form;
     QTemporaryDir dir;
 
-    void start() { session.start(); }
-    QAction* menu(const char* name) { return session.menu(name); }
-    void saveAs(const QString& path) { session.saveAs(path); }
-    void open(const QString& path, QStringList* messages = nullptr, int expectedMessages = 0)
-    {
-        session.open(path, messages, expectedMessages);
-    }
-
 private slots:
     void init()
     {
@@ -48,9 +40,9 @@ private slots:
 
     void saveAsWritesTheMainFileAndItsFolder()
     {
-        start();
+        session.start();
         const QString path = native(dir.filePath(QStringLiteral("Opening.qel")));
-        saveAs(path);
+        session.saveAs(path);
         QCOMPARE(gConfigFilePath, path);
         QCOMPARE(gConfigName, QStringLiteral("Opening"));
         QCOMPARE(gConfigFolder, native(dir.path()) + QDir::separator());
@@ -128,7 +120,7 @@ private slots:
 
     void openInAFreshStartBringsThePerformanceBack()
     {
-        start();
+        session.start();
         gMainConfig.m_strName = QStringLiteral("Opening Night");
         gMainConfig.m_iNExos = 1;
         gMainConfig.m_iNArduinos = 2;
@@ -142,12 +134,12 @@ private slots:
         gScenes.Add(scene);
         gScenes.Item(2)->PartList.Item(1)->m_VideoCapture(0)->m_iFPS = 25;
         const QString path = native(dir.filePath(QStringLiteral("Night.qel")));
-        saveAs(path);
+        session.saveAs(path);
         form.reset();
 
-        start();
+        session.start();
         QCOMPARE(gScenes.Count(), 1);
-        open(path);
+        session.open(path);
         QCOMPARE(gConfigFilePath, path);
         QCOMPARE(gMainConfig.m_strName, QStringLiteral("Opening Night"));
         QCOMPARE(form->findChild<QLabel*>(QStringLiteral("TextName"))->text(), QStringLiteral("Opening Night"));
@@ -170,11 +162,11 @@ private slots:
 
     void cancelAtTheOpenDialogLeavesThePerformance()
     {
-        start();
+        session.start();
         gMainConfig.m_strName = QStringLiteral("Unsaved");
         DialogDriver driver;
         driver.next([](QWidget* w) { DialogDriver::cancel(w); });
-        menu("Open")->trigger();
+        session.menu("Open")->trigger();
         QVERIFY2(driver.finished(), qPrintable(driver.error()));
         QCOMPARE(gMainConfig.m_strName, QStringLiteral("Unsaved"));
         QCOMPARE(gConfigFilePath, QString());
@@ -182,15 +174,15 @@ private slots:
 
     void yesToSaveThenCancelAtTheOpenDialogLeavesThePerformance()
     {
-        start();
+        session.start();
         const QString path = native(dir.filePath(QStringLiteral("Kept.qel")));
-        saveAs(path);
+        session.saveAs(path);
         gMainConfig.m_strName = QStringLiteral("Changed");
         gDirty = true;
         DialogDriver driver;
         driver.next(answer(QMessageBox::Yes));
         driver.next([](QWidget* w) { DialogDriver::cancel(w); });
-        menu("Open")->trigger();
+        session.menu("Open")->trigger();
         QVERIFY2(driver.finished(), qPrintable(driver.error()));
         QCOMPARE(gMainConfig.m_strName, QStringLiteral("Changed"));
         QCOMPARE(gConfigFilePath, path);
@@ -200,7 +192,7 @@ private slots:
 
     void yesAtNewOnANeverSavedPerformanceRunsSaveAsAndCancelGoesOn()
     {
-        start();
+        session.start();
         gMainConfig.m_strName = QStringLiteral("Lost");
         gDirty = true;
         DialogDriver driver;
@@ -210,7 +202,7 @@ private slots:
             dialogName = w->objectName();
             DialogDriver::cancel(w);
         });
-        menu("New")->trigger();
+        session.menu("New")->trigger();
         QVERIFY2(driver.finished(), qPrintable(driver.error()));
         QCOMPARE(dialogName, QStringLiteral("TheCommonDialog"));
         QCOMPARE(gMainConfig.m_strName, QStringLiteral("QEL New"));
@@ -220,15 +212,15 @@ private slots:
 
     void savingTwiceOverwritesAndLeavesFilesOfRemovedDevices()
     {
-        start();
+        session.start();
         gMainConfig.m_iNExos = 2;
         const QString path = native(dir.filePath(QStringLiteral("Twice.qel")));
-        saveAs(path);
+        session.saveAs(path);
         const QString folder = dir.filePath(QStringLiteral("Twice"));
         QVERIFY(QFileInfo::exists(folder + QStringLiteral("/Exo2.cfg")));
         gMainConfig.m_iNExos = 1;
         gMainConfig.m_strName = QStringLiteral("Second");
-        menu("Save")->trigger();
+        session.menu("Save")->trigger();
         QVERIFY(ReadBytes(path).contains("\r\nSecond\r\n"));
         QVERIFY(ReadBytes(folder + QStringLiteral("/Scenes.cfg")).contains("\r\nSecond\r\n"));
         QVERIFY(QFileInfo::exists(folder + QStringLiteral("/Exo1.cfg")));
@@ -237,30 +229,30 @@ private slots:
 
     void noExoskeletonsAndNoArduinosGiveNoSuchFiles()
     {
-        start();
+        session.start();
         const QString path = native(dir.filePath(QStringLiteral("Bare.qel")));
-        saveAs(path);
+        session.saveAs(path);
         const QStringList files = folderFiles(dir.filePath(QStringLiteral("Bare")));
         for (const QString& f : files)
             QVERIFY2(!f.startsWith(QStringLiteral("Exo")) && !f.startsWith(QStringLiteral("Arduino")), qPrintable(f));
         gExoData(0).m_iMax(0) = 7;
-        open(path);
+        session.open(path);
         QCOMPARE(gExoData(0).m_iMax(0), qint16(7));   // nothing read for a suit that is not there
     }
 
     void missingGlobalRulesStopOpenAfterTheRules()
     {
-        start();
+        session.start();
         gMainConfig.m_iNExos = 1;
         gMainConfig.m_iNVideoCaps = 1;
         gExoData(0).m_iMax(0) = 100;
         gScenes.Item(1)->PartList.Item(1)->m_VideoCapture(0)->m_iFPS = 12;
         const QString path = native(dir.filePath(QStringLiteral("NoGlobal.qel")));
-        saveAs(path);
+        session.saveAs(path);
         QFile::remove(dir.filePath(QStringLiteral("NoGlobal/GlobalEvents.cfg")));
         gExoData(0).m_iMax(0) = 1;
         QStringList messages;
-        open(path, &messages, 2);
+        session.open(path, &messages, 2);
         QCOMPARE(messages, (QStringList{"Error opening global events configuration file!",
                                         "Error opening global events configuration!"}));
         QCOMPARE(gExoData(0).m_iMax(0), qint16(1));   // not read
@@ -269,17 +261,17 @@ private slots:
 
     void olderPerformanceWithoutCaptureFileOpensWithItsMessage()
     {
-        start();
+        session.start();
         gMainConfig.m_iNExos = 1;
         gMainConfig.m_iNVideoCaps = 1;
         gExoData(0).m_iMax(0) = 100;
         gScenes.Item(1)->PartList.Item(1)->m_VideoCapture(0)->m_iFPS = 12;
         const QString path = native(dir.filePath(QStringLiteral("Older.qel")));
-        saveAs(path);
+        session.saveAs(path);
         QFile::remove(dir.filePath(QStringLiteral("Older/VideoCapture.cfg")));
         gExoData(0).m_iMax(0) = 1;
         QStringList messages;
-        open(path, &messages, 1);
+        session.open(path, &messages, 1);
         QCOMPARE(messages, QStringList{QStringLiteral("Error opening video capture configuration!")});
         QCOMPARE(gExoData(0).m_iMax(0), qint16(100));
         QCOMPARE(gScenes.Item(1)->PartList.Item(1)->m_VideoCapture(0)->m_iFPS, qint16(5));
@@ -297,14 +289,14 @@ private slots:
     {
         QFETCH(QString, removed);
         QFETCH(QString, message);
-        start();
+        session.start();
         gMainConfig.m_iNExos = 1;
         gMainConfig.m_iNArduinos = 2;
         const QString path = native(dir.filePath(QStringLiteral("Fail_") + QTest::currentDataTag() + QStringLiteral(".qel")));
-        saveAs(path);
+        session.saveAs(path);
         QFile::remove(dir.filePath(QStringLiteral("Fail_") + QTest::currentDataTag() + QStringLiteral("/") + removed));
         QStringList messages;
-        open(path, &messages, 1);
+        session.open(path, &messages, 1);
         QCOMPARE(messages, QStringList{message});
         QCOMPARE(gConfigFilePath, path);
         QCOMPARE(gDirty, false);
@@ -312,30 +304,30 @@ private slots:
 
     void missingMainFileShowsItsMessage()
     {
-        start();
+        session.start();
         QStringList messages;
         QTemporaryDir other;
         const QString path = native(other.filePath(QStringLiteral("Gone.qel")));
         WriteBytes(path, "");
-        open(path, &messages, 1);
+        session.open(path, &messages, 1);
         QCOMPARE(messages, QStringList{QStringLiteral("Error opening main configuration!")});
     }
 
     void missingRulesFileShowsOnlyTheRulesReadersMessage()
     {
-        start();
+        session.start();
         const QString path = native(dir.filePath(QStringLiteral("NoRules.qel")));
-        saveAs(path);
+        session.saveAs(path);
         QFile::remove(dir.filePath(QStringLiteral("NoRules/Events.cfg")));
         QStringList messages;
-        open(path, &messages, 1);
+        session.open(path, &messages, 1);
         QCOMPARE(messages.size(), 1);
         QVERIFY2(messages[0].startsWith(QStringLiteral("Error opening events configuration file!")), qPrintable(messages[0]));
     }
 
     void aFailedSaveStepShowsItsMessageAndTheSaveGoesOn()
     {
-        start();
+        session.start();
         gMainConfig.m_iNExos = 1;
         gMainConfig.m_iNArduinos = 1;
         // A file where the performance's folder should be: every data file fails.
@@ -350,7 +342,7 @@ private slots:
                 messages << DialogDriver::text(w);
                 DialogDriver::press(w, QMessageBox::Ok);
             });
-        menu("SaveAs")->trigger();
+        session.menu("SaveAs")->trigger();
         QVERIFY2(driver.finished(), qPrintable(driver.error()));
         QCOMPARE(messages, (QStringList{"Error saving scenes configuration!", "Error saving movies filenames!",
                                         "Error saving events configuration!",
@@ -365,7 +357,7 @@ private slots:
 
     void aCountBeyondItsTableFailsThoseStepsAndTheSaveGoesOn()
     {
-        start();
+        session.start();
         gMainConfig.m_iNExos = 3;   // only two suits have records
         QTemporaryDir other;
         DeriveConfigPaths(native(other.filePath(QStringLiteral("Three.qel"))));
