@@ -4,6 +4,7 @@
 // Events.cfg and GlobalEvents.cfg fixtures.
 // Rules are written with designated initializers that name only the fields that matter.
 #pragma GCC diagnostic ignored "-Wmissing-field-initializers"
+#include <functional>
 #include <initializer_list>
 #include <memory>
 #include <QApplication>
@@ -15,6 +16,7 @@
 #include <QTemporaryDir>
 #include <QTimer>
 #include "model/CScene.h"
+#include "support/DialogDriver.h"
 #include "model/ModuleGlobals.h"
 #include "rules/CAction.h"
 #include "rules/CEvent.h"
@@ -24,6 +26,27 @@
 namespace ruletest {
 
 // Replaces gScenes by scenes with the given numbers of subscenes, all without rules.
+// Runs a reading that must fail and gives the text of its one message box, or a
+// description of what was wrong with the box (none, wrong title or icon).
+inline QString FailureMessage(const std::function<bool()>& read, bool* result)
+{
+    DialogDriver driver(3000);
+    QString text, title;
+    QMessageBox::Icon icon = QMessageBox::NoIcon;
+    driver.next([&](QWidget* w) {
+        text = DialogDriver::text(w);
+        title = w->windowTitle();
+        icon = qobject_cast<QMessageBox*>(w)->icon();
+        DialogDriver::press(w, QMessageBox::Ok);
+    });
+    *result = read();
+    if (!driver.finished())
+        return QStringLiteral("<no box: %1>").arg(driver.error());
+    if (title != QStringLiteral("QEL Setup") || icon != QMessageBox::Warning)
+        return QStringLiteral("<box titled %1, icon %2>").arg(title).arg(int(icon));
+    return text;
+}
+
 inline void ResetScenes(const QList<int>& partsPerScene)
 {
     gScenes = Collection<CScene>();

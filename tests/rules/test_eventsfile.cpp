@@ -68,21 +68,7 @@ class TestEventsFile : public QObject {
     QString readFailing(const QList<int>& parts, bool* result)
     {
         ResetScenes(parts);
-        DialogDriver driver(3000);
-        QString text, title;
-        QMessageBox::Icon icon = QMessageBox::NoIcon;
-        driver.next([&](QWidget* w) {
-            text = DialogDriver::text(w);
-            title = w->windowTitle();
-            icon = qobject_cast<QMessageBox*>(w)->icon();
-            DialogDriver::press(w, QMessageBox::Ok);
-        });
-        *result = ReadEventsFile(path());
-        if (!driver.finished())
-            return QStringLiteral("<no box: %1>").arg(driver.error());
-        if (title != QStringLiteral("QEL Setup") || icon != QMessageBox::Warning)
-            return QStringLiteral("<box titled %1, icon %2>").arg(title).arg(int(icon));
-        return text;
+        return FailureMessage([this] { return ReadEventsFile(path()); }, result);
     }
 
     static std::shared_ptr<CEvent> midiRule(const CEvent& fields)

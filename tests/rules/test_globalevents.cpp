@@ -39,21 +39,7 @@ class TestGlobalEvents : public QObject {
     // Reads a file that must fail; gives the text of the one message box.
     QString readFailing(const QString& file, bool* result)
     {
-        DialogDriver driver(3000);
-        QString text, title;
-        QMessageBox::Icon icon = QMessageBox::NoIcon;
-        driver.next([&](QWidget* w) {
-            text = DialogDriver::text(w);
-            title = w->windowTitle();
-            icon = qobject_cast<QMessageBox*>(w)->icon();
-            DialogDriver::press(w, QMessageBox::Ok);
-        });
-        *result = ReadGlobalEventsFile(file);
-        if (!driver.finished())
-            return QStringLiteral("<no box: %1>").arg(driver.error());
-        if (title != QStringLiteral("QEL Setup") || icon != QMessageBox::Warning)
-            return QStringLiteral("<box titled %1, icon %2>").arg(title).arg(int(icon));
-        return text;
+        return FailureMessage([&file] { return ReadGlobalEventsFile(file); }, result);
     }
 
     QStringList remarks() const
