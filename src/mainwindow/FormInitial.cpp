@@ -28,6 +28,7 @@
 #include "rules/ModuleEvents.h"
 #include "rules/ModuleGlobalEvents.h"
 #include "rules/ModuleRuleDisplay.h"
+#include "support/Controls.h"
 #include "support/Convert.h"
 #include "support/ModuleGUI.h"
 #include "support/NumberFormat.h"
@@ -40,15 +41,6 @@ namespace {
 
 // Sizes are given in twips, 15 to a pixel.
 constexpr int twips(int t) { return t / 15; }
-
-template <typename W>
-W* named(W* widget, const QString& name)
-{
-    widget->setObjectName(name);
-    return widget;
-}
-
-QString arrayName(const QString& name, int index) { return QStringLiteral("%1(%2)").arg(name).arg(index); }
 
 // A filter row: checked boxes, hidden until the rule view places and captions them.
 QList<QCheckBox*> filterChecks(QWidget* area, const QString& name, int count)
@@ -290,55 +282,15 @@ void FormInitial::connectHandlers()
     connect(CommandFlash, &QPushButton::clicked, this, &FormInitial::CommandFlash_Click);
     connect(CommandPorts, &QPushButton::clicked, this, &FormInitial::CommandPorts_Click);
     connect(CommandScreen, &QPushButton::clicked, this, &FormInitial::CommandScreen_Click);
+    connect(CommandItems, &QPushButton::clicked, this, &FormInitial::CommandItems_Click);
+    connect(CommandTalpor, &QPushButton::clicked, this, &FormInitial::CommandTalpor_Click);
+    connect(CommandShowConfig, &QPushButton::clicked, this, &FormInitial::CommandShowConfig_Click);
+    connect(CommandBots, &QPushButton::clicked, this, &FormInitial::CommandBots_Click);
     for (int i = 0; i < CheckSource.size(); ++i)
         connect(CheckSource[i], &QCheckBox::clicked, this, [this, i] { CheckSource_Click(i); });
     for (int i = 0; i < CheckTarget.size(); ++i)
         connect(CheckTarget[i], &QCheckBox::clicked, this, [this, i] { CheckTarget_Click(i); });
 }
-
-// A click in a count's list: the count takes the list index when it differs
-// (always, for MIDI and video capture), and the performance counts as changed.
-void FormInitial::ComboNExos_Click() { deviceCountActivated(ComboNExos, gMainConfig.m_iNExos, false); }
-void FormInitial::ComboNTotems_Click() { deviceCountActivated(ComboNTotems, gMainConfig.m_iNTotems, false); }
-void FormInitial::ComboNOSCs_Click() { deviceCountActivated(ComboNOSCs, gMainConfig.m_iNOSCs, false); }
-void FormInitial::ComboNArduinos_Click() { deviceCountActivated(ComboNArduinos, gMainConfig.m_iNArduinos, false); }
-void FormInitial::ComboNScreens_Click() { deviceCountActivated(ComboNScreens, gMainConfig.m_iNQDMs, false); }
-void FormInitial::ComboNFlash_Click() { deviceCountActivated(ComboNFlash, gMainConfig.m_iNFlash, false); }
-void FormInitial::ComboNMIDI_Click() { deviceCountActivated(ComboNMIDI, gMainConfig.m_iNMIDIs, true); }
-void FormInitial::ComboNVideoCaps_Click() { deviceCountActivated(ComboNVideoCaps, gMainConfig.m_iNVideoCaps, true); }
-
-bool FormInitial::devicesToConfigure(int count, const char* message)
-{
-    if (count == 0) {
-        MsgBoxExclamation(QString::fromLatin1(message));
-        return false;
-    }
-    return true;
-}
-
-// The device dialogs themselves come with their own forms; until then a button
-// only says when there is nothing to configure.
-void FormInitial::ExoskeletonsCalibration_Click() { devicesToConfigure(gMainConfig.m_iNExos, "No Exoskeletons!"); }
-void FormInitial::ArduinoConfig_Click() { devicesToConfigure(ComboNArduinos->currentIndex(), "No Arduinos!"); }
-void FormInitial::CommandOSC_Click() { devicesToConfigure(ComboNOSCs->currentIndex(), "No OSC connections!"); }
-void FormInitial::CommandFlash_Click() { devicesToConfigure(ComboNFlash->currentIndex(), "No Flash players!"); }
-void FormInitial::CommandPorts_Click() { devicesToConfigure(ComboNMIDI->currentIndex(), "No MIDI devices to configure!"); }
-void FormInitial::CommandScreen_Click()
-{
-    devicesToConfigure(ComboNScreens->currentIndex(), "No QEL Display Managers to configure!");
-}
-
-void FormInitial::deviceCountActivated(QComboBox* combo, qint16& member, bool always)
-{
-    if (gSuppressComboEvents)
-        return;
-    const auto index = static_cast<qint16>(combo->currentIndex());
-    if (always || member != index) {
-        member = index;
-        gDirty = true;
-    }
-}
-
 // ---------------------------------------------------------------- start
 
 void FormInitial::Form_Load()
@@ -610,18 +562,6 @@ void FormInitial::Open_Click()
     RefreshRuleView();
 }
 
-void FormInitial::appendScene(const std::shared_ptr<CScene>& scene)
-{
-    // Appended when no scene row is selected or the place is after the last scene.
-    if (gCurrentScene == gScenes.Count() || iSelectedRow == -1)
-        gScenes.Add(scene);
-    else
-        gScenes.Add(scene, iSelectedRow + 1);
-    ++gLastScene;
-    for (int index = gCurrentScene + 1; index <= gLastScene; ++index)
-        ++gScenes.Item(index + 1)->m_iID;
-}
-
 MsgAnswer FormInitial::AskToSave()
 {
     const MsgAnswer answer = MsgBox(QStringLiteral("Save Configuration?"), MsgButtons::YesNoCancel, MsgIcon::Question);
@@ -716,246 +656,4 @@ void FormInitial::CommandConn_Click()
     setDevicePanelVisible(false);
     setRuleViewVisible(true);
     ArrangeFilterChecks();
-}
-
-namespace {
-
-// Filter entry of a check box caption; -1 for a caption with no entry.
-int sourceFilterEntry(const QString& caption)
-{
-    static const QHash<QString, int> entries = {{"AUT", 0}, {"EXO", 1}, {"TOT", 2}, {"FLA", 3}, {"DIO", 5},
-                                                {"MIDI", 6}, {"ARD", 7}, {"OSC", 8}, {"QEL", 9}};
-    return entries.value(caption, -1);
-}
-
-int targetFilterEntry(const QString& caption)
-{
-    static const QHash<QString, int> entries = {{"FLA", 3}, {"MIDI", 6}, {"ARD", 7}, {"OSC", 8}, {"QEL", 9}};
-    return entries.value(caption, -1);
-}
-
-// Captions a row of boxes in order and places each right of the one before,
-// the first right of its heading. A box keeps its checked state.
-void arrangeRow(QLabel* heading, const QList<QCheckBox*>& boxes, const QStringList& captions)
-{
-    int left = heading->x() + heading->width();
-    for (int i = 0; i < boxes.size(); ++i) {
-        QCheckBox* box = boxes[i];
-        if (i < captions.size()) {
-            box->setText(captions[i]);
-            box->setGeometry(left, heading->y(), 62, heading->height());
-            left = box->x() + box->width();
-            box->show();
-        } else {
-            box->hide();
-        }
-    }
-    heading->show();
-}
-
-} // namespace
-
-void FormInitial::ArrangeFilterChecks()
-{
-    const CMainConfig& c = gMainConfig;
-    QStringList sources = {QStringLiteral("AUT"), QStringLiteral("QEL")};
-    if (c.m_iNExos > 0) sources << QStringLiteral("EXO");
-    if (c.m_iNTotems > 0) sources << QStringLiteral("TOT");
-    if (c.m_iNFlash > 0) sources << QStringLiteral("FLA");
-    sources << QStringLiteral("DIO");
-    if (c.m_iNMIDIs > 0) sources << QStringLiteral("MIDI");
-    if (c.m_iNArduinos > 0) sources << QStringLiteral("ARD");
-    if (c.m_iNOSCs > 0) sources << QStringLiteral("OSC");
-    arrangeRow(Label1, CheckSource, sources);
-
-    QStringList targets = {QStringLiteral("QEL")};
-    if (c.m_iNFlash > 0) targets << QStringLiteral("FLA");
-    if (c.m_iNMIDIs > 0) targets << QStringLiteral("MIDI");
-    if (c.m_iNArduinos > 0) targets << QStringLiteral("ARD");
-    if (c.m_iNOSCs > 0) targets << QStringLiteral("OSC");
-    if (c.m_iNVideoCaps > 0) targets << QStringLiteral("VCAP");
-    arrangeRow(Label3, CheckTarget, targets);
-}
-
-void FormInitial::CheckSource_Click(int index)
-{
-    QCheckBox* box = CheckSource[index];
-    if (const int entry = sourceFilterEntry(box->text()); entry >= 0)
-        gSourceFilter(entry) = box->isChecked();
-    refillRuleList();
-}
-
-void FormInitial::CheckTarget_Click(int index)
-{
-    QCheckBox* box = CheckTarget[index];
-    if (const int entry = targetFilterEntry(box->text()); entry >= 0)
-        gTargetFilter(entry) = box->isChecked();
-    refillRuleList();
-}
-
-void FormInitial::refillRuleList()
-{
-    try {
-        FillRuleList(gCurrentScene + 1, gCurrentPart + 1, ListEvents);
-    } catch (const RuntimeError&) {
-        // No such scene or subscene: the list stays as it was.
-    }
-}
-
-void FormInitial::CommandRules_Click()
-{
-    setRuleViewVisible(false);
-    setDevicePanelVisible(true);
-}
-
-void FormInitial::setDevicePanelEnabled(bool enabled)
-{
-    for (auto* c : m_countCombos)
-        c->setEnabled(enabled);
-    for (auto* b : m_dialogButtons)
-        b->setEnabled(enabled);
-    txtEvPerSec->setEnabled(enabled);
-    CommandTalpor->setEnabled(enabled);
-}
-
-void FormInitial::CommandUnlock_Click()
-{
-    bPanelLocked = true;
-    setDevicePanelEnabled(false);
-    CommandUnlock->hide();
-    CommandLock->show();
-}
-
-void FormInitial::CommandLock_Click()
-{
-    bPanelLocked = false;
-    setDevicePanelEnabled(true);
-    CommandLock->hide();
-    CommandUnlock->show();
-}
-
-void FormInitial::ShowDeviceCounts()
-{
-    const qint16 counts[8] = {gMainConfig.m_iNExos, gMainConfig.m_iNTotems, gMainConfig.m_iNOSCs,
-                              gMainConfig.m_iNArduinos, gMainConfig.m_iNQDMs, gMainConfig.m_iNFlash,
-                              gMainConfig.m_iNMIDIs, gMainConfig.m_iNVideoCaps};
-    const int lists[8] = {2, 4, 16, 16, 8, 16, 8, 4};
-    for (int i = 0; i < 8; ++i) {
-        QComboBox* combo = m_countCombos[i];
-        combo->clear();
-        for (int n = 0; n <= lists[i]; ++n)
-            combo->addItem(QString::number(n));
-        combo->setCurrentIndex(counts[i] >= 0 && counts[i] <= lists[i] ? counts[i] : -1);
-    }
-    txtEvPerSec->setText(QString::number(gMainConfig.m_iEventsPerSec));
-}
-
-void FormInitial::txtEvPerSec_Change()
-{
-    if (ConvertsToLong(txtEvPerSec->text())) {
-        try {
-            gMainConfig.m_iEventsPerSec = ToInteger(txtEvPerSec->text());
-        } catch (const RuntimeError&) {
-            // Above 32767: the number check passes and the conversion fails; the member stays.
-        }
-    } else {
-        txtEvPerSec->setText(QStringLiteral("16"));
-    }
-    gDirty = true;
-}
-
-// ---------------------------------------------------------------- scene and rule lists
-
-void FormInitial::ListMain2_Click()
-{
-    if (gGlobalRuleView) {
-        CommandAdd->setText(QStringLiteral("Add rule"));
-        ListGlobalRules->clearSelection();
-        gGlobalRuleView = false;
-        RefreshRuleView();
-    }
-    iSelectedRow = -1;
-    const int rows = ListMain2->topLevelItemCount();
-    for (int r = 0; r < rows; ++r)
-        if (ListMain2->topLevelItem(r)->isSelected())
-            iSelectedRow = static_cast<qint16>(r);
-    if (iSelectedRow == rows - 1)
-        iSelectedRow = -1;   // the end row
-    if (gScenes.Count() > 0) {
-        if (ListGlobalRules->count() == 0)
-            ListGlobalRules->addItem(QStringLiteral("GLOBAL RULES"));
-    } else {
-        ListGlobalRules->clear();
-    }
-    if (iSelectedRow == -1 || iSelectedRow == rows) {
-        CommandUp->setEnabled(false);
-        CommandDown->setEnabled(false);
-        CommandUp->hide();
-        CommandDown->hide();
-        CommandAdd->setEnabled(false);
-    } else {
-        CommandUp->setEnabled(true);
-        CommandDown->setEnabled(true);
-        CommandUp->show();
-        CommandDown->show();
-        gCurrentScene = iSelectedRow;
-        gCurrentPart = 0;
-        CommandAdd->setEnabled(true);
-    }
-    RefreshRuleView();
-}
-
-void FormInitial::ListGlobalRules_Click()
-{
-    SyncSelectedScene();
-    if (gGlobalRuleView)
-        return;
-    CommandAdd->setText(QStringLiteral("Add global rule"));
-    ListMain2->clearSelection();
-    gGlobalRuleView = true;
-    RefreshRuleView();
-}
-
-void FormInitial::SyncSelectedScene()
-{
-    if (iSelectedRow != -1 && iSelectedRow != ListMain2->topLevelItemCount())
-        gCurrentScene = iSelectedRow;
-    gCurrentPart = 0;
-}
-
-void FormInitial::TextSearched_Change()
-{
-    SyncSelectedScene();
-    gCurrentGroup = TextSearched->currentText();
-    RefreshRuleView();
-}
-
-void FormInitial::RefreshRuleView()
-{
-    if (gGlobalRuleView) {
-        Label5->setText(QStringLiteral("Global Rules"));
-        LabelNumScene->hide();
-        LabelName->hide();
-    } else if (gCurrentScene < 0) {
-        Label5->setText(QStringLiteral("No scene selected"));
-        LabelNumScene->setText(QString::number(gCurrentScene));
-        LabelName->clear();
-        LabelNumScene->hide();
-        LabelName->hide();
-    } else {
-        Label5->setText(QStringLiteral("Scene"));
-        LabelNumScene->setText(QString::number(gCurrentScene));
-        LabelNumScene->show();
-        if (gCurrentPart >= 0) {
-            try {
-                LabelName->setText(gScenes.Item(gCurrentScene + 1)->PartList.Item(gCurrentPart + 1)->m_strName);
-            } catch (const RuntimeError&) {
-                // No such scene or subscene: the label keeps its text.
-            }
-            LabelName->show();
-        } else {
-            LabelName->hide();
-        }
-    }
-    refillRuleList();
 }

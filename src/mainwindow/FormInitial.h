@@ -145,6 +145,10 @@ public:
     void CommandFlash_Click();
     void CommandPorts_Click();
     void CommandScreen_Click();
+    void CommandItems_Click();
+    void CommandTalpor_Click();
+    void CommandShowConfig_Click();
+    void CommandBots_Click();
 
     void ListMain2_Click();
     void ListGlobalRules_Click();
@@ -167,6 +171,8 @@ private:
     void deviceCountActivated(QComboBox* combo, qint16& member, bool always);
     // The number of devices a dialog button would configure; 0 shows `message` and opens nothing.
     bool devicesToConfigure(int count, const char* message);
+    // Shows a device dialog modally with the panel's m_bUpdate hand-over around it.
+    void runDeviceDialog(class QDialog& dialog);
     void refillRuleList();
     // Appends a scene as the Add command does with no scene row selected.
     void appendScene(const std::shared_ptr<class CScene>& scene);

@@ -1,0 +1,3 @@
+#include "files/ModuleClipboard.h"
+
+Collection<CClipboardItem> gClipboard;

@@ -1,0 +1,162 @@
+// The device panel: the device counts, the buttons that open the device
+// dialogs, the events per second, and the lock.
+#include "mainwindow/FormInitial.h"
+#include <QComboBox>
+#include <QDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include "model/CMainConfig.h"
+#include "model/ModuleGlobals.h"
+#include "support/Convert.h"
+#include "support/ModuleGUI.h"
+#include "support/RuntimeError.h"
+
+// A click in a count's list: the count takes the list index when it differs
+// (always, for MIDI and video capture), and the performance counts as changed.
+void FormInitial::ComboNExos_Click() { deviceCountActivated(ComboNExos, gMainConfig.m_iNExos, false); }
+void FormInitial::ComboNTotems_Click() { deviceCountActivated(ComboNTotems, gMainConfig.m_iNTotems, false); }
+void FormInitial::ComboNOSCs_Click() { deviceCountActivated(ComboNOSCs, gMainConfig.m_iNOSCs, false); }
+void FormInitial::ComboNArduinos_Click() { deviceCountActivated(ComboNArduinos, gMainConfig.m_iNArduinos, false); }
+void FormInitial::ComboNScreens_Click() { deviceCountActivated(ComboNScreens, gMainConfig.m_iNQDMs, false); }
+void FormInitial::ComboNFlash_Click() { deviceCountActivated(ComboNFlash, gMainConfig.m_iNFlash, false); }
+void FormInitial::ComboNMIDI_Click() { deviceCountActivated(ComboNMIDI, gMainConfig.m_iNMIDIs, true); }
+void FormInitial::ComboNVideoCaps_Click() { deviceCountActivated(ComboNVideoCaps, gMainConfig.m_iNVideoCaps, true); }
+
+bool FormInitial::devicesToConfigure(int count, const char* message)
+{
+    if (count == 0) {
+        MsgBoxExclamation(QString::fromLatin1(message));
+        return false;
+    }
+    return true;
+}
+
+// The panel's hand-over around a device dialog: m_bUpdate is cleared, the
+// dialog shown modally, and m_bUpdate cleared again if the dialog set it.
+void FormInitial::runDeviceDialog(QDialog& dialog)
+{
+    gMainConfig.m_bUpdate = false;
+    dialog.exec();
+    if (gMainConfig.m_bUpdate)
+        gMainConfig.m_bUpdate = false;
+}
+
+// Each dialog button takes its count and opens its dialog; with no devices it
+// only says so. A dialog not built yet opens nothing.
+
+void FormInitial::ExoskeletonsCalibration_Click()
+{
+    devicesToConfigure(gMainConfig.m_iNExos, "No Exoskeletons!");
+}
+
+void FormInitial::ArduinoConfig_Click()
+{
+    devicesToConfigure(ComboNArduinos->currentIndex(), "No Arduinos!");
+}
+
+void FormInitial::CommandOSC_Click()
+{
+    devicesToConfigure(ComboNOSCs->currentIndex(), "No OSC connections!");
+}
+
+void FormInitial::CommandFlash_Click()
+{
+    devicesToConfigure(ComboNFlash->currentIndex(), "No Flash players!");
+}
+
+void FormInitial::CommandPorts_Click()
+{
+    devicesToConfigure(ComboNMIDI->currentIndex(), "No MIDI devices to configure!");
+}
+
+void FormInitial::CommandScreen_Click()
+{
+    devicesToConfigure(ComboNScreens->currentIndex(), "No QEL Display Managers to configure!");
+}
+
+void FormInitial::CommandItems_Click()
+{
+}
+
+void FormInitial::CommandTalpor_Click()
+{
+}
+
+void FormInitial::CommandShowConfig_Click()
+{
+}
+
+void FormInitial::deviceCountActivated(QComboBox* combo, qint16& member, bool always)
+{
+    if (gSuppressComboEvents)
+        return;
+    const auto index = static_cast<qint16>(combo->currentIndex());
+    if (always || member != index) {
+        member = index;
+        gDirty = true;
+    }
+}
+
+
+void FormInitial::CommandRules_Click()
+{
+    setRuleViewVisible(false);
+    setDevicePanelVisible(true);
+}
+
+void FormInitial::setDevicePanelEnabled(bool enabled)
+{
+    for (auto* c : m_countCombos)
+        c->setEnabled(enabled);
+    for (auto* b : m_dialogButtons)
+        b->setEnabled(enabled);
+    txtEvPerSec->setEnabled(enabled);
+    CommandTalpor->setEnabled(enabled);
+}
+
+void FormInitial::CommandUnlock_Click()
+{
+    bPanelLocked = true;
+    setDevicePanelEnabled(false);
+    CommandUnlock->hide();
+    CommandLock->show();
+}
+
+void FormInitial::CommandLock_Click()
+{
+    bPanelLocked = false;
+    setDevicePanelEnabled(true);
+    CommandLock->hide();
+    CommandUnlock->show();
+}
+
+void FormInitial::ShowDeviceCounts()
+{
+    const qint16 counts[8] = {gMainConfig.m_iNExos, gMainConfig.m_iNTotems, gMainConfig.m_iNOSCs,
+                              gMainConfig.m_iNArduinos, gMainConfig.m_iNQDMs, gMainConfig.m_iNFlash,
+                              gMainConfig.m_iNMIDIs, gMainConfig.m_iNVideoCaps};
+    const int lists[8] = {2, 4, 16, 16, 8, 16, 8, 4};
+    for (int i = 0; i < 8; ++i) {
+        QComboBox* combo = m_countCombos[i];
+        combo->clear();
+        for (int n = 0; n <= lists[i]; ++n)
+            combo->addItem(QString::number(n));
+        combo->setCurrentIndex(counts[i] >= 0 && counts[i] <= lists[i] ? counts[i] : -1);
+    }
+    txtEvPerSec->setText(QString::number(gMainConfig.m_iEventsPerSec));
+}
+
+void FormInitial::txtEvPerSec_Change()
+{
+    if (ConvertsToLong(txtEvPerSec->text())) {
+        try {
+            gMainConfig.m_iEventsPerSec = ToInteger(txtEvPerSec->text());
+        } catch (const RuntimeError&) {
+            // Above 32767: the number check passes and the conversion fails; the member stays.
+        }
+    } else {
+        txtEvPerSec->setText(QStringLiteral("16"));
+    }
+    gDirty = true;
+}

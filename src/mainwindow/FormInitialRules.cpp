@@ -1,0 +1,155 @@
+// The rule list: the filter boxes, the label search, the global rules row and
+// the heading over the list.
+#include "mainwindow/FormInitial.h"
+#include <QCheckBox>
+#include <QComboBox>
+#include <QHash>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTreeWidget>
+#include "model/CMainConfig.h"
+#include "model/CScene.h"
+#include "model/ModuleGlobals.h"
+#include "rules/ModuleEvents.h"
+#include "rules/ModuleRuleDisplay.h"
+#include "support/RuntimeError.h"
+
+namespace {
+
+// Filter entry of a check box caption; -1 for a caption with no entry.
+int sourceFilterEntry(const QString& caption)
+{
+    static const QHash<QString, int> entries = {{"AUT", 0}, {"EXO", 1}, {"TOT", 2}, {"FLA", 3}, {"DIO", 5},
+                                                {"MIDI", 6}, {"ARD", 7}, {"OSC", 8}, {"QEL", 9}};
+    return entries.value(caption, -1);
+}
+
+int targetFilterEntry(const QString& caption)
+{
+    static const QHash<QString, int> entries = {{"FLA", 3}, {"MIDI", 6}, {"ARD", 7}, {"OSC", 8}, {"QEL", 9}};
+    return entries.value(caption, -1);
+}
+
+// Captions a row of boxes in order and places each right of the one before,
+// the first right of its heading. A box keeps its checked state.
+void arrangeRow(QLabel* heading, const QList<QCheckBox*>& boxes, const QStringList& captions)
+{
+    int left = heading->x() + heading->width();
+    for (int i = 0; i < boxes.size(); ++i) {
+        QCheckBox* box = boxes[i];
+        if (i < captions.size()) {
+            box->setText(captions[i]);
+            box->setGeometry(left, heading->y(), 62, heading->height());
+            left = box->x() + box->width();
+            box->show();
+        } else {
+            box->hide();
+        }
+    }
+    heading->show();
+}
+
+} // namespace
+
+void FormInitial::ArrangeFilterChecks()
+{
+    const CMainConfig& c = gMainConfig;
+    QStringList sources = {QStringLiteral("AUT"), QStringLiteral("QEL")};
+    if (c.m_iNExos > 0) sources << QStringLiteral("EXO");
+    if (c.m_iNTotems > 0) sources << QStringLiteral("TOT");
+    if (c.m_iNFlash > 0) sources << QStringLiteral("FLA");
+    sources << QStringLiteral("DIO");
+    if (c.m_iNMIDIs > 0) sources << QStringLiteral("MIDI");
+    if (c.m_iNArduinos > 0) sources << QStringLiteral("ARD");
+    if (c.m_iNOSCs > 0) sources << QStringLiteral("OSC");
+    arrangeRow(Label1, CheckSource, sources);
+
+    QStringList targets = {QStringLiteral("QEL")};
+    if (c.m_iNFlash > 0) targets << QStringLiteral("FLA");
+    if (c.m_iNMIDIs > 0) targets << QStringLiteral("MIDI");
+    if (c.m_iNArduinos > 0) targets << QStringLiteral("ARD");
+    if (c.m_iNOSCs > 0) targets << QStringLiteral("OSC");
+    if (c.m_iNVideoCaps > 0) targets << QStringLiteral("VCAP");
+    arrangeRow(Label3, CheckTarget, targets);
+}
+
+void FormInitial::CheckSource_Click(int index)
+{
+    QCheckBox* box = CheckSource[index];
+    if (const int entry = sourceFilterEntry(box->text()); entry >= 0)
+        gSourceFilter(entry) = box->isChecked();
+    refillRuleList();
+}
+
+void FormInitial::CheckTarget_Click(int index)
+{
+    QCheckBox* box = CheckTarget[index];
+    if (const int entry = targetFilterEntry(box->text()); entry >= 0)
+        gTargetFilter(entry) = box->isChecked();
+    refillRuleList();
+}
+
+void FormInitial::refillRuleList()
+{
+    try {
+        FillRuleList(gCurrentScene + 1, gCurrentPart + 1, ListEvents);
+    } catch (const RuntimeError&) {
+        // No such scene or subscene: the list stays as it was.
+    }
+}
+
+void FormInitial::ListGlobalRules_Click()
+{
+    SyncSelectedScene();
+    if (gGlobalRuleView)
+        return;
+    CommandAdd->setText(QStringLiteral("Add global rule"));
+    ListMain2->clearSelection();
+    gGlobalRuleView = true;
+    RefreshRuleView();
+}
+
+void FormInitial::SyncSelectedScene()
+{
+    if (iSelectedRow != -1 && iSelectedRow != ListMain2->topLevelItemCount())
+        gCurrentScene = iSelectedRow;
+    gCurrentPart = 0;
+}
+
+void FormInitial::TextSearched_Change()
+{
+    SyncSelectedScene();
+    gCurrentGroup = TextSearched->currentText();
+    RefreshRuleView();
+}
+
+void FormInitial::RefreshRuleView()
+{
+    if (gGlobalRuleView) {
+        Label5->setText(QStringLiteral("Global Rules"));
+        LabelNumScene->hide();
+        LabelName->hide();
+    } else if (gCurrentScene < 0) {
+        Label5->setText(QStringLiteral("No scene selected"));
+        LabelNumScene->setText(QString::number(gCurrentScene));
+        LabelName->clear();
+        LabelNumScene->hide();
+        LabelName->hide();
+    } else {
+        Label5->setText(QStringLiteral("Scene"));
+        LabelNumScene->setText(QString::number(gCurrentScene));
+        LabelNumScene->show();
+        if (gCurrentPart >= 0) {
+            try {
+                LabelName->setText(gScenes.Item(gCurrentScene + 1)->PartList.Item(gCurrentPart + 1)->m_strName);
+            } catch (const RuntimeError&) {
+                // No such scene or subscene: the label keeps its text.
+            }
+            LabelName->show();
+        } else {
+            LabelName->hide();
+        }
+    }
+    refillRuleList();
+}

@@ -1,0 +1,16 @@
+#pragma once
+// Naming of controls: every control carries its name as objectName, and
+// element i of a control array is "Name(i)".
+#include <QString>
+
+template <typename W>
+W* named(W* widget, const QString& name)
+{
+    widget->setObjectName(name);
+    return widget;
+}
+
+inline QString arrayName(const QString& name, int index)
+{
+    return QStringLiteral("%1(%2)").arg(name).arg(index);
+}
