@@ -184,7 +184,7 @@ void FormInitial::buildRuleView(QWidget* area)
     ListEvents = named(new QTreeWidget(area), QStringLiteral("ListEvents"));
     SetupRuleListColumns(ListEvents);
     // Scene commands and colours still to come are shown but not offered.
-    for (QPushButton* b : {CommandAddScene, CommandEdit, CommandDelete, CommandBots, CommandShowConfig})
+    for (QPushButton* b : {CommandAddScene, CommandEdit, CommandDelete, CommandShowConfig})
         b->setEnabled(false);
     for (QPushButton* b : CommandColor)
         b->setEnabled(false);

@@ -6,6 +6,8 @@
 #include <QTreeWidget>
 #include "model/CScene.h"
 #include "model/ModuleGlobals.h"
+#include "robots/FormBots.h"
+#include "robots/FormBotsInteraction.h"
 #include "rules/ModuleRuleDisplay.h"
 
 void FormInitial::appendScene(const std::shared_ptr<CScene>& scene)
@@ -62,4 +64,13 @@ void FormInitial::ListMain2_Click()
 // The robot rules of the selected subscene, or the list of scenes.
 void FormInitial::CommandBots_Click()
 {
+    if (iSelectedRow >= 0 && iSelectedRow < gScenes.Count()) {
+        gCurrentScene = iSelectedRow;
+        gCurrentPart = 0;
+        FormBotsInteraction rules(this);
+        rules.exec();
+    } else {
+        FormBots scenes(this);
+        scenes.exec();
+    }
 }
