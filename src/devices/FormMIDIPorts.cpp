@@ -77,8 +77,11 @@ FormMIDIPorts::FormMIDIPorts(QWidget* owner) : QDialog(owner)
         TextMIDIPortLabel << row.text(QStringLiteral("TextMIDIPortLabel"), 1800, 2520);
         TextPortNumber << row.text(QStringLiteral("TextPortNumber"), 4440, 960);
         const InOutButtons pair = row.inOut(QString(), 5640, 1440);
+        // No captions: the buttons stand under the heads "IN" and "OUT".
         pair.in->setText(QString());
         pair.out->setText(QString());
+        PlaceTwips(pair.in, 5700, 720 + i * 480, 300, 315);
+        PlaceTwips(pair.out, 6420, 720 + i * 480, 300, 315);
         optIn << pair.in;
         optOut << pair.out;
         row.setVisible(false);

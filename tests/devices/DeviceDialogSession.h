@@ -4,6 +4,8 @@
 // the button clicked, the dialog and the message boxes answered in turn.
 #include <QtTest>
 #include <QCheckBox>
+#include <QGroupBox>
+#include <QLabel>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMessageBox>
