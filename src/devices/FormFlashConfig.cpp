@@ -27,7 +27,7 @@ FormFlashConfig::FormFlashConfig(QWidget* owner) : QDialog(owner)
     TextFlashPort->setText(QStringLiteral("1122"));
     label("LabelUDPEnabled", "UDP broadcast enabled", 240, 720, 1800);
     CheckUDPEnabled = named(new QCheckBox(this), QStringLiteral("CheckUDPEnabled"));
-    PlaceTwips(CheckUDPEnabled, 2160, 720, 400, 315);
+    PlaceTwips(CheckUDPEnabled, 2160, 720, 300, 315);
     label("LabelUDPPort", "UDP port", 3600, 720, 1000);
     TextUDPPort = text("TextUDPPort", 4680, 720, 1200);
     TextUDPPort->setText(QStringLiteral("9991"));
