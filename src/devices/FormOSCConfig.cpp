@@ -61,13 +61,11 @@ void FormOSCConfig::Form_Load()
     CMainConfig& cfg = gMainConfig;
     cfg.m_bUpdate = false;
     for (int i = 0; i < iNumOSCs; ++i) {
-        Skip([&] {
-            At(Label, i)->show();
-            At(TextLabel, i)->show();
-            At(TextIP, i)->show();
-            At(TextPort, i)->show();
-            At(FrameOpt, i)->show();
-        });
+        Skip([&] { At(Label, i)->show(); });
+        Skip([&] { At(TextLabel, i)->show(); });
+        Skip([&] { At(TextIP, i)->show(); });
+        Skip([&] { At(TextPort, i)->show(); });
+        Skip([&] { At(FrameOpt, i)->show(); });
         Skip([&] { At(TextLabel, i)->setText(cfg.m_strOSCPortLabel(i)); });
         Skip([&] { At(TextIP, i)->setText(cfg.m_strOSCIP(i)); });
         Skip([&] { At(TextPort, i)->setText(QString::number(cfg.m_iOSCPort(i))); });
