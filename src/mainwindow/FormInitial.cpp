@@ -124,6 +124,7 @@ void FormInitial::buildMenus()
     AddScene = entry(ScenesParts, QStringLiteral("AddScene"), QStringLiteral("&Add"));
     EditScene = entry(ScenesParts, QStringLiteral("EditScene"), QStringLiteral("&Edit"));
     Remove = entry(ScenesParts, QStringLiteral("Remove"), QStringLiteral("&Remove"));
+    DigitalIO = entry(Setup, QStringLiteral("DigitalIO"), QStringLiteral("&Digital IO Cards..."));
     Help = menu(nullptr, QStringLiteral("Help"), QStringLiteral("&Help"));
     About = entry(Help, QStringLiteral("About"), QStringLiteral("&About QEL Setup v.4.0"));
 
@@ -290,6 +291,7 @@ void FormInitial::connectHandlers()
         connect(CheckSource[i], &QCheckBox::clicked, this, [this, i] { CheckSource_Click(i); });
     for (int i = 0; i < CheckTarget.size(); ++i)
         connect(CheckTarget[i], &QCheckBox::clicked, this, [this, i] { CheckTarget_Click(i); });
+    connect(DigitalIO, &QAction::triggered, this, &FormInitial::DigitalIO_Click);
 }
 // ---------------------------------------------------------------- start
 

@@ -45,6 +45,10 @@ public:
     QMenu* Help;
     QAction* About;
 
+    // Setup menu: the digital IO cards dialog.
+    QAction* DigitalIO;
+    void DigitalIO_Click();
+
     // --- always on show ---
     QLabel* TextName;              // the title of the performance
     QPushButton* CommandConn;      // switches to the rule view

@@ -6,6 +6,11 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include "devices/FormDigitalIOSetup.h"
+#include "devices/FormFlashConfig.h"
+#include "devices/FormMIDIPorts.h"
+#include "devices/FormOSCConfig.h"
+#include "devices/FormTotemsConfig.h"
 #include "model/CMainConfig.h"
 #include "model/ModuleGlobals.h"
 #include "support/Convert.h"
@@ -57,17 +62,29 @@ void FormInitial::ArduinoConfig_Click()
 
 void FormInitial::CommandOSC_Click()
 {
-    devicesToConfigure(ComboNOSCs->currentIndex(), "No OSC connections!");
+    if (!devicesToConfigure(ComboNOSCs->currentIndex(), "No OSC connections!"))
+        return;
+    FormOSCConfig dialog(this);
+    dialog.iNumOSCs = static_cast<qint16>(ComboNOSCs->currentIndex());
+    runDeviceDialog(dialog);
 }
 
 void FormInitial::CommandFlash_Click()
 {
-    devicesToConfigure(ComboNFlash->currentIndex(), "No Flash players!");
+    if (!devicesToConfigure(ComboNFlash->currentIndex(), "No Flash players!"))
+        return;
+    FormFlashConfig dialog(this);
+    dialog.iNumFlash = static_cast<qint16>(ComboNFlash->currentIndex());
+    runDeviceDialog(dialog);
 }
 
 void FormInitial::CommandPorts_Click()
 {
-    devicesToConfigure(ComboNMIDI->currentIndex(), "No MIDI devices to configure!");
+    if (!devicesToConfigure(ComboNMIDI->currentIndex(), "No MIDI devices to configure!"))
+        return;
+    FormMIDIPorts dialog(this);
+    dialog.iNumMIDIs = static_cast<qint16>(ComboNMIDI->currentIndex());
+    runDeviceDialog(dialog);
 }
 
 void FormInitial::CommandScreen_Click()
@@ -77,6 +94,10 @@ void FormInitial::CommandScreen_Click()
 
 void FormInitial::CommandItems_Click()
 {
+    // Opens with no joysticks as well: the dialog then shows no rows.
+    FormTotemsConfig dialog(this);
+    dialog.iNumTotems = static_cast<qint16>(ComboNTotems->currentIndex());
+    runDeviceDialog(dialog);
 }
 
 void FormInitial::CommandTalpor_Click()
@@ -159,4 +180,11 @@ void FormInitial::txtEvPerSec_Change()
         txtEvPerSec->setText(QStringLiteral("16"));
     }
     gDirty = true;
+}
+
+// The digital IO cards, offered from the Setup menu.
+void FormInitial::DigitalIO_Click()
+{
+    FormDigitalIOSetup dialog(this);
+    runDeviceDialog(dialog);
 }

@@ -1,0 +1,160 @@
+// The digital IO cards dialog, offered from the Setup menu of the main window.
+#include <QMenu>
+#include "DeviceDialogSession.h"
+#include "model/CMainConfig.h"
+#include "model/ModuleGlobals.h"
+
+class TestDigitalIOSetup : public QObject {
+    Q_OBJECT
+private:
+    DeviceDialogSession s;
+
+    // Opens the dialog from its menu entry and runs `act` on it.
+    void openWith(const std::function<void(QWidget*)>& act)
+    {
+        DialogDriver driver;
+        driver.next([&](QWidget* d) { act(d); });
+        s.menu("DigitalIO")->trigger();
+        QVERIFY2(driver.finished(), qPrintable(driver.error()));
+    }
+    static QList<bool> rowsShown(QWidget* d)
+    {
+        QList<bool> visible;
+        for (int i = 0; i < 4; ++i)
+            visible << (shown(d, row("TextID", i)) && shown(d, row("TextNIn", i)) && shown(d, row("TextNOut", i))
+                        && shown(d, row("LabelCard", i)) && shown(d, row("LabelID", i)));
+        return visible;
+    }
+
+private slots:
+    void initTestCase() { s.start(); }
+    void init() { s.fresh(); }
+    void cleanupTestCase() { s.stop(); }
+
+    void theSetupMenuOffersTheDialog()
+    {
+        QAction* entry = s.menu("DigitalIO");
+        QVERIFY(entry);
+        QVERIFY(entry->text().contains(QStringLiteral("Digital IO")));
+        QVERIFY(entry->isEnabled());
+        QVERIFY(s.form->Setup->actions().contains(entry));
+        QString caption, label;
+        openWith([&](QWidget* d) {
+            caption = d->windowTitle();
+            label = control<QLabel>(d, QStringLiteral("LabelNCards"))->text();
+            clickOn(d, QStringLiteral("CommandCancel"));
+        });
+        QCOMPARE(caption, QStringLiteral("Digital IO Setup"));
+        QCOMPARE(label, QStringLiteral("Number of Digital IO Cards:"));
+    }
+
+    void theDialogShowsTheCardsOfTheTables()
+    {
+        QString selected;
+        QStringList texts;
+        QList<bool> visible;
+        openWith([&](QWidget* d) {
+            selected = control<QComboBox>(d, QStringLiteral("ComboNCards"))->currentText();
+            texts << textOf(d, row("TextID", 0)) << textOf(d, row("TextNIn", 0)) << textOf(d, row("TextNOut", 0));
+            visible = rowsShown(d);
+            clickOn(d, QStringLiteral("CommandCancel"));
+        });
+        QCOMPARE(selected, QStringLiteral("1"));
+        QCOMPARE(texts, (QStringList{"0", "32", "32"}));
+        QCOMPARE(visible, (QList<bool>{true, false, false, false}));
+    }
+
+    void withNoCardsNothingIsSelectedAndOkGivesNone()
+    {
+        gNDigitalIO = 0;   // as an older file leaves it
+        int index = 0;
+        QList<bool> visible;
+        openWith([&](QWidget* d) {
+            index = control<QComboBox>(d, QStringLiteral("ComboNCards"))->currentIndex();
+            visible = rowsShown(d);
+            clickOn(d, QStringLiteral("CommandOK"));
+        });
+        QCOMPARE(index, -1);
+        QCOMPARE(visible, (QList<bool>{false, false, false, false}));
+        QCOMPARE(gNDigitalIO, 0);
+        QVERIFY(gDirty);
+    }
+
+    void raisingTheCountFillsTheNewRowsFromTheTables()
+    {
+        gDigitalIOCardID(2) = 12;
+        gDigitalIONIn(2) = 16;
+        gDigitalIONOut(2) = 8;
+        QStringList texts;
+        QList<bool> visible;
+        openWith([&](QWidget* d) {
+            DialogDriver::pick(d, QStringLiteral("ComboNCards"), QStringLiteral("2"));
+            typeIn(d, row("TextID", 1), QStringLiteral("99"));
+            // Down to one card and up to three again: the rows come back with the tables' values.
+            DialogDriver::pick(d, QStringLiteral("ComboNCards"), QStringLiteral("1"));
+            DialogDriver::pick(d, QStringLiteral("ComboNCards"), QStringLiteral("3"));
+            visible = rowsShown(d);
+            texts << textOf(d, row("TextID", 1)) << textOf(d, row("TextNIn", 1))
+                  << textOf(d, row("TextID", 2)) << textOf(d, row("TextNIn", 2)) << textOf(d, row("TextNOut", 2));
+            clickOn(d, QStringLiteral("CommandCancel"));
+        });
+        QCOMPARE(visible, (QList<bool>{true, true, true, false}));
+        QCOMPARE(texts, (QStringList{"1", "32", "12", "16", "8"}));
+    }
+
+    void aCountAboveFourIsHeldToFour()
+    {
+        gNDigitalIO = 9;
+        QString selected;
+        openWith([&](QWidget* d) {
+            selected = control<QComboBox>(d, QStringLiteral("ComboNCards"))->currentText();
+            clickOn(d, QStringLiteral("CommandCancel"));
+        });
+        QCOMPARE(selected, QStringLiteral("4"));
+        QCOMPARE(gNDigitalIO, 4);
+    }
+
+    void okStoresTheCardsAndSaveAsWritesThem()
+    {
+        openWith([&](QWidget* d) {
+            DialogDriver::pick(d, QStringLiteral("ComboNCards"), QStringLiteral("2"));
+            typeIn(d, row("TextID", 0), QStringLiteral("5"));
+            typeIn(d, row("TextNIn", 0), QStringLiteral("16"));
+            typeIn(d, row("TextNOut", 0), QStringLiteral("8"));
+            typeIn(d, row("TextID", 1), QStringLiteral("6"));
+            typeIn(d, row("TextNIn", 1), QStringLiteral("many"));   // no number: the field stays
+            typeIn(d, row("TextNOut", 1), QStringLiteral("4"));
+            clickOn(d, QStringLiteral("CommandOK"));
+        });
+        QVERIFY(gDirty);
+        QCOMPARE(gNDigitalIO, 2);
+        QCOMPARE(gDigitalIONIn(1), 32);
+        const QByteArray file = s.saveAsAndRead(QStringLiteral("dio.qel"));
+        QVERIFY2(file.contains(fileLines({"; Number of Digital IO Cards:", " 2 ", "", "; Digital IO Card 1: ", " 5 ", " 16 ",
+                                          " 8 ", "", "; Digital IO Card 2: ", " 6 ", " 32 ", " 4 ", "",
+                                          "; Background Color:"})),
+                 file.constData());
+
+        s.reopen(QStringLiteral("dio.qel"));
+        QCOMPARE(gNDigitalIO, 2);
+        QCOMPARE(gDigitalIOCardID(0), 5);
+        QCOMPARE(gDigitalIONIn(0), 16);
+        QCOMPARE(gDigitalIONOut(1), 4);
+    }
+
+    void cancelChangesNothing()
+    {
+        openWith([&](QWidget* d) {
+            DialogDriver::pick(d, QStringLiteral("ComboNCards"), QStringLiteral("3"));
+            typeIn(d, row("TextID", 0), QStringLiteral("44"));
+            clickOn(d, QStringLiteral("CommandCancel"));
+        });
+        QCOMPARE(gNDigitalIO, 1);
+        QCOMPARE(gDigitalIOCardID(0), 0);
+        QVERIFY(!gDirty);
+        QVERIFY(!gMainConfig.m_bUpdate);
+    }
+};
+
+QTEST_MAIN(TestDigitalIOSetup)
+#include "test_digitalio.moc"
