@@ -87,7 +87,6 @@ private slots:
         QCOMPARE(shown.text, QStringLiteral("No Arduinos!"));
         QCOMPARE(shown.title, QStringLiteral("QEL Setup"));
         QCOMPARE(shown.icon, QMessageBox::Warning);
-        QVERIFY(!qApp->findChild<FormArduinoConfig*>());
     }
 
     void theButtonOpensTheDialogWithARowForEachBoardOfTheCount()
@@ -111,6 +110,27 @@ private slots:
         QCOMPARE(gDirty, true);
         QCOMPARE(gMainConfig.m_bUpdate, false);   // the opener clears it again
         QCOMPARE(gArduinoData(1).m_iNumDigitalIOs, qint16(10));
+    }
+
+    void openedTwiceInARowTheDialogHasOneSetOfRows()
+    {
+        session.start();
+        DialogDriver::pick(session.form.get(), QStringLiteral("ComboNArduinos"), QStringLiteral("3"));
+        for (int opening = 0; opening < 2; ++opening) {
+            DialogDriver driver;
+            int labels = -1, shown = -1;
+            driver.next([&](QWidget* w) {
+                labels = w->findChildren<QLineEdit*>(QStringLiteral("TextLabel(0)")).size();
+                shown = 0;
+                for (auto* edit : w->findChildren<QLineEdit*>())
+                    shown += edit->isVisible();
+                DialogDriver::click(w, QStringLiteral("CommandCancel"));
+            });
+            DialogDriver::click(session.form.get(), QStringLiteral("ArduinoConfig"));
+            QVERIFY2(driver.finished(), qPrintable(driver.error()));
+            QCOMPARE(labels, 1);
+            QCOMPARE(shown, 6);   // a label and a port for each of the three boards
+        }
     }
 
     void rowsShowTheRecordsWithTheCountsFixedAtTwoAndTen()
