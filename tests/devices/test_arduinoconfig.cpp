@@ -244,6 +244,39 @@ private slots:
         QCOMPARE(gArduinoData(1).m_strLabel, QStringLiteral("Right"));
     }
 
+    void countBoxesWithNoEntryGiveTheirOwnMessages()
+    {
+        // The count boxes are disabled with an entry chosen; with none chosen their text is empty.
+        FormArduinoConfig form;
+        openWith(form, 1);
+        control<QComboBox>(&form, "NumberAnalogIn(0)")->setCurrentIndex(-1);
+        DialogDriver driver;
+        Shown analog;
+        driver.next(record(analog));
+        DialogDriver::click(&form, QStringLiteral("CommandOK"));
+        QVERIFY2(driver.finished(), qPrintable(driver.error()));
+        QCOMPARE(analog.text, QStringLiteral("You have to enter the number of analog inputs for every Arduino"));
+        QCOMPARE(analog.title, QStringLiteral("QEL Setup"));
+        QCOMPARE(analog.icon, QMessageBox::NoIcon);
+        QCOMPARE(gArduinoData(0).m_iNumAnalogInputs, qint16(32));
+
+        control<QComboBox>(&form, "NumberAnalogIn(0)")->setCurrentIndex(2);
+        control<QComboBox>(&form, "NumberDigitalIO(0)")->setCurrentIndex(-1);
+        DialogDriver second;
+        Shown digital;
+        second.next(record(digital));
+        DialogDriver::click(&form, QStringLiteral("CommandOK"));
+        QVERIFY2(second.finished(), qPrintable(second.error()));
+        QCOMPARE(digital.text, QStringLiteral("You have to enter the number of digital connections for every Arduino"));
+        QCOMPARE(digital.title, QStringLiteral("QEL Setup"));
+        QCOMPARE(digital.icon, QMessageBox::NoIcon);
+        QCOMPARE(gArduinoData(0).m_iNumAnalogInputs, qint16(2));
+        QCOMPARE(gArduinoData(0).m_iNumDigitalIOs, qint16(96));
+        QVERIFY(form.isVisible());
+        QCOMPARE(gDirty, false);
+        form.CommandCancel->click();
+    }
+
     void aCOMPortThatIsNoNumberKeepsTheOldPortWithNoMessage()
     {
         gArduinoData(0).m_iCOMPort = 5;
