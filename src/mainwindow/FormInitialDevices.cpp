@@ -1,6 +1,8 @@
 // The device panel: the device counts, the buttons that open the device
 // dialogs, the events per second, and the lock.
 #include "mainwindow/FormInitial.h"
+#include "devices/FormArduinoConfig.h"
+#include "devices/FormDisplayConfig.h"
 #include <QComboBox>
 #include <QDialog>
 #include <QLabel>
@@ -57,7 +59,11 @@ void FormInitial::ExoskeletonsCalibration_Click()
 
 void FormInitial::ArduinoConfig_Click()
 {
-    devicesToConfigure(ComboNArduinos->currentIndex(), "No Arduinos!");
+    FormArduinoConfig dialog(this);
+    dialog.iNumArduinos = static_cast<qint16>(ComboNArduinos->currentIndex());
+    if (!devicesToConfigure(dialog.iNumArduinos, "No Arduinos!"))
+        return;
+    runDeviceDialog(dialog);
 }
 
 void FormInitial::CommandOSC_Click()
@@ -89,7 +95,12 @@ void FormInitial::CommandPorts_Click()
 
 void FormInitial::CommandScreen_Click()
 {
-    devicesToConfigure(ComboNScreens->currentIndex(), "No QEL Display Managers to configure!");
+    const int count = ComboNScreens->currentIndex();
+    if (!devicesToConfigure(count, "No QEL Display Managers to configure!"))
+        return;
+    FormDisplayConfig dialog(this);
+    dialog.iNumQDMs = static_cast<qint16>(count);
+    runDeviceDialog(dialog);
 }
 
 void FormInitial::CommandItems_Click()
