@@ -127,6 +127,7 @@ FormExoCalibration::FormExoCalibration(QWidget* owner) : QDialog(owner)
         connect(ComboChannel(row)->lineEdit(), &QLineEdit::textEdited, this,
                 [this, row] { ComboChannel_Change(row); });
     }
+    grid->setRowStretch(rightLine, 1);
 
     CommandAuto = named(new QPushButton(kStart, this), QStringLiteral("CommandAuto"));
     Label13 = named(new QLabel(QStringLiteral("Errors:"), this), QStringLiteral("Label13"));
