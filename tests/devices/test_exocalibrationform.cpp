@@ -230,7 +230,8 @@ private slots:
         gMainConfig.m_iNExos = 1;
         Suit suit(1, scripted(1));
         openFromMainWindow([&](QWidget* w) {
-            runThen(w, [&] { return suit.sim().answerCount() >= 3; }, "CommandOK");
+            auto* max = DialogDriver::find<QLineEdit>(w, QStringLiteral("TextMax(28)"));
+            runThen(w, [max] { return max->text() == QString::number(kRamp[28]); }, "CommandOK");
         });
         for (int row = 0; row < kExoRows; ++row) {
             QCOMPARE(gExoData(0).m_iMin(row), qint16(kRamp[row]));
@@ -261,7 +262,9 @@ private slots:
         QCOMPARE(edit(s.form.get(), "TextExoPort")->text(), QStringLiteral("2"));
 
         // The next click starts a run on the second suit, and the one after stops it.
-        s.run([&] { s.stopWhen([&] { return second.sim().answerCount() >= 3; }); });
+        s.run([&] {
+            s.stopWhen([&] { return second.requests() >= 3 && s.textMax(0)->text() == QString::number(kRamp[0]); });
+        });
         QCOMPARE(first.requests(), firstAtSwitch);
         QVERIFY(second.requests() >= 3);
         QCOMPARE(int(second.sim().requests().front()[1]), 2);
