@@ -1,14 +1,15 @@
 // The device panel: the device counts, the buttons that open the device
 // dialogs, the events per second, and the lock.
 #include "mainwindow/FormInitial.h"
-#include "devices/FormArduinoConfig.h"
-#include "devices/FormDisplayConfig.h"
 #include <QComboBox>
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include "devices/FormArduinoConfig.h"
 #include "devices/FormDigitalIOSetup.h"
+#include "devices/FormDisplayConfig.h"
+#include "devices/FormExoCalibration.h"
 #include "devices/FormFlashConfig.h"
 #include "devices/FormMIDIPorts.h"
 #include "devices/FormOSCConfig.h"
@@ -54,7 +55,28 @@ void FormInitial::runDeviceDialog(QDialog& dialog)
 
 void FormInitial::ExoskeletonsCalibration_Click()
 {
-    devicesToConfigure(gMainConfig.m_iNExos, "No Exoskeletons!");
+    if (!devicesToConfigure(gMainConfig.m_iNExos, "No Exoskeletons!"))
+        return;
+    // The dialog works on copies of both suits; m_strItem is not among the fields copied.
+    const auto copyExo = [](const CExoData& from, CExoData& to) {
+        to.m_iID = from.m_iID;
+        for (int row = 0; row < kExoRows; ++row) {
+            to.m_iChannel(row) = from.m_iChannel(row);
+            to.m_iType(row) = from.m_iType(row);
+            to.m_iMin(row) = from.m_iMin(row);
+            to.m_iMax(row) = from.m_iMax(row);
+        }
+    };
+    for (int exo = 0; exo <= 1; ++exo)
+        copyExo(gExoData(exo), gExoDataEdit(exo));
+    FormExoCalibration dialog(this);
+    // When the dialog has closed: accepted, it sets m_bUpdate, and the copies go back.
+    connect(&dialog, &QDialog::finished, this, [&copyExo] {
+        if (gMainConfig.m_bUpdate)
+            for (int exo = 0; exo <= 1; ++exo)
+                copyExo(gExoDataEdit(exo), gExoData(exo));
+    });
+    runDeviceDialog(dialog);
 }
 
 void FormInitial::ArduinoConfig_Click()
