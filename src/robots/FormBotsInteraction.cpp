@@ -249,6 +249,11 @@ void FormBotsInteraction::Paste_Click()
 
 void FormBotsInteraction::Save_Click() { SaveFromBotForm(this); }
 
-void FormBotsInteraction::Quit_Click() { reject(); }
+// Quit, as in the dialog of one robot rule, clears the accepted flag.
+void FormBotsInteraction::Quit_Click()
+{
+    gRuleAccepted = false;
+    reject();
+}
 
 void FormBotsInteraction::GoTo_Click() { reject(); }

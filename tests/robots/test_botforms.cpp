@@ -201,6 +201,30 @@ private slots:
         }
     }
 
+    void quitOfTheSceneListAndOfTheRuleListsClearsTheAcceptedFlag()
+    {
+        danceWithThreeRules();
+        QList<bool> hidden;
+        DialogDriver driver;
+        driver.next([&](QWidget* w) {
+            gRuleAccepted = true;
+            choose(w, QStringLiteral("Quit"));
+            hidden << !w->isVisible();
+        });
+        session.clickBots(driver);
+        QVERIFY(!gRuleAccepted);
+        session.clickEndRow();
+        DialogDriver scenes;
+        scenes.next([&](QWidget* w) {
+            gRuleAccepted = true;
+            choose(w, QStringLiteral("Quit"));
+            hidden << !w->isVisible();
+        });
+        session.clickBots(scenes);
+        QVERIFY(!gRuleAccepted);
+        QCOMPARE(hidden, (QList<bool>{true, true}));
+    }
+
     void theSceneListMenusCarryTheirCaptions()
     {
         session.clickEndRow();
