@@ -81,6 +81,16 @@ FormBotsInteraction::FormBotsInteraction(QWidget* owner) : QDialog(owner)
 
     connect(ListBotsInteraction, &QListWidget::itemClicked, this, &FormBotsInteraction::ListBotsInteraction_Click);
     connect(ListRemarks, &QListWidget::itemClicked, this, &FormBotsInteraction::ListRemarks_Click);
+    // The arrow keys select a row as well: a change of the current row in the
+    // list that has the focus counts as a click on that row.
+    connect(ListBotsInteraction, &QListWidget::currentRowChanged, this, [this](int row) {
+        if (row >= 0 && ListBotsInteraction->hasFocus())
+            ListBotsInteraction_Click(ListBotsInteraction->item(row));
+    });
+    connect(ListRemarks, &QListWidget::currentRowChanged, this, [this](int row) {
+        if (row >= 0 && ListRemarks->hasFocus())
+            ListRemarks_Click(ListRemarks->item(row));
+    });
     connect(ListBotsInteraction, &QListWidget::itemDoubleClicked, this,
             &FormBotsInteraction::ListBotsInteraction_DblClick);
     connect(ListRemarks, &QListWidget::itemDoubleClicked, this, &FormBotsInteraction::ListRemarks_DblClick);
