@@ -168,10 +168,12 @@ void FormBotsInteraction::ListRemarks_DblClick(QListWidgetItem*) { EditEvent_Cli
 void FormBotsInteraction::openRuleDialog(qint16 mode)
 {
     // The index of the rule worked on: the selected rule row, or the number of
-    // rules (the index of the empty row) when the empty row or no row is selected.
+    // rows of the list, the empty row included, when the empty row or no row is
+    // selected.
     const int row = selectedRow();
     const int rules = ruleCount();
-    gRuleIndex = static_cast<qint16>(row >= 0 && row < rules ? row : rules);
+    const bool ruleRow = row >= 0 && row < rules;
+    gRuleIndex = static_cast<qint16>(ruleRow ? row : ListBotsInteraction->count());
     gRuleEditMode = mode;
     {
         FormAddEditBotInter dialog(this);
@@ -181,10 +183,12 @@ void FormBotsInteraction::openRuleDialog(qint16 mode)
         return;
     auto event = std::make_shared<CBotEvent>();
     StoreBotRule(*event);
+    // Added ahead of the selected rule, or at the end from the empty row; an
+    // edit from the empty row has no rule to replace.
     if (mode == 1)
-        Skip([&] { currentPart().AddBotEvent(event, gRuleIndex + 1); });
-    else
-        Skip([&] { CopyBotEvent(*currentPart().BotEvents.Item(gRuleIndex + 1), *event); });
+        Skip([&] { currentPart().AddBotEvent(event, ruleRow ? row + 1 : rules + 1); });
+    else if (ruleRow)
+        Skip([&] { CopyBotEvent(*currentPart().BotEvents.Item(row + 1), *event); });
     FillLists();
     gRuleAccepted = false;
 }

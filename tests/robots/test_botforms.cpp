@@ -280,6 +280,28 @@ private slots:
         QCOMPARE(mirrored, (QList<int>{1, 2, 3, 0}));
     }
 
+    void aRowSelectedWithTheArrowKeysIsSelectedInTheOtherList()
+    {
+        danceWithThreeRules();
+        QList<int> mirrored;
+        DialogDriver driver;
+        driver.next([&](QWidget* w) {
+            QListWidget* rules = listOf(w, QStringLiteral("ListBotsInteraction"));
+            QListWidget* remarks = listOf(w, QStringLiteral("ListRemarks"));
+            clickRow(w, QStringLiteral("ListBotsInteraction"), 0);
+            QTest::keyClick(rules, Qt::Key_Down);
+            mirrored << selectedRowOf(w, QStringLiteral("ListRemarks"));
+            QTest::keyClick(rules, Qt::Key_Down);
+            mirrored << selectedRowOf(w, QStringLiteral("ListRemarks"));
+            clickRow(w, QStringLiteral("ListRemarks"), 3);
+            QTest::keyClick(remarks, Qt::Key_Up);
+            mirrored << selectedRowOf(w, QStringLiteral("ListBotsInteraction"));
+            DialogDriver::click(w, QStringLiteral("CommandClose"));
+        });
+        session.clickBots(driver);
+        QCOMPARE(mirrored, (QList<int>{1, 2, 2}));
+    }
+
     void removeWithYesDeletesTheRuleAndRefillsBothLists()
     {
         danceWithThreeRules();
@@ -450,8 +472,8 @@ private slots:
             driver.next(look);
         session.clickBots(driver);
         QCOMPARE(modes, (QList<int>{1, 1, 2, 2, 2}));
-        // The empty row stands for the place after the last rule.
-        QCOMPARE(indices, (QList<int>{1, 3, 2, 0, 1}));
+        // The empty row gives the number of rows of the list, itself included.
+        QCOMPARE(indices, (QList<int>{1, 4, 2, 0, 1}));
         QCOMPARE(remarksOf(2, 1), (QStringList{"one", "two", "three"}));
     }
 
@@ -495,6 +517,33 @@ private slots:
         QCOMPARE(added.m_strMIDIFile2, QStringLiteral("C:\\midi\\two.mid"));
         QVERIFY(added.m_bLoop);
         QCOMPARE(PartAt(2, 1).BotEvents.Item(4)->m_iRukaBot, qint16(5));
+    }
+
+    void anAcceptedRuleAddedFromTheEmptyRowGoesToTheEnd()
+    {
+        danceWithThreeRules();
+        QStringList remarks;
+        DialogDriver driver;
+        driver.next([&](QWidget* w) {
+            clickRow(w, QStringLiteral("ListRemarks"), 3);
+            DialogDriver::click(w, QStringLiteral("CommandAdd"));
+            clickRow(w, QStringLiteral("ListRemarks"), 4);
+            choose(w, QStringLiteral("EditEvent"));
+            remarks = rowsOf(w, QStringLiteral("ListRemarks"));
+            DialogDriver::click(w, QStringLiteral("CommandClose"));
+        });
+        for (const char* text : {"last", "nowhere"}) {
+            driver.next([text](QWidget* w) {
+                gBotRemarks = QString::fromLatin1(text);
+                gRuleAccepted = true;
+                qobject_cast<QDialog*>(w)->done(QDialog::Accepted);
+            });
+        }
+        session.clickBots(driver);
+        // An edit from the empty row has no rule to replace.
+        QCOMPARE(remarks, (QStringList{"one", "two", "three", "last", ""}));
+        QCOMPARE(remarksOf(2, 1), (QStringList{"one", "two", "three", "last"}));
+        QVERIFY(!gRuleAccepted);
     }
 
     void browsePutsTheChosenMIDIFileIntoItsTextBox()
