@@ -7,6 +7,7 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QTemporaryDir>
 #include "files/ModuleClipboard.h"
 #include "mainwindow/FormInitial.h"
@@ -20,6 +21,27 @@ namespace {
 QString labelText(QWidget* root, const char* name)
 {
     return DialogDriver::find<QLabel>(root, QString::fromLatin1(name))->text();
+}
+
+// The captions of the labels of a form, in no particular order.
+QStringList labelCaptions(QWidget* root)
+{
+    QStringList captions;
+    for (QLabel* label : root->findChildren<QLabel*>())
+        captions << label->text();
+    return captions;
+}
+
+// "Menu: entry=caption entry=caption" for a menu and its entries, in menu order.
+QString menuOf(QWidget* root, const char* name)
+{
+    auto* menu = root->findChild<QMenu*>(QString::fromLatin1(name));
+    if (!menu)
+        return QStringLiteral("no menu ") + QString::fromLatin1(name);
+    QString text = menu->title() + QLatin1Char(':');
+    for (QAction* entry : menu->actions())
+        text += QLatin1Char(' ') + entry->objectName() + QLatin1Char('=') + entry->text();
+    return text;
 }
 
 } // namespace
@@ -80,6 +102,93 @@ private slots:
         auto* bots = session.form->findChild<QPushButton*>(QStringLiteral("CommandBots"));
         QVERIFY(bots->isVisible());
         QVERIFY(bots->isEnabled());
+    }
+
+    void everyControlOfTheRobotFormsHasItsNameKindAndCaption()
+    {
+        danceWithThreeRules();
+        QStringList missing;
+        auto need = [&missing](bool found, const QString& what) {
+            if (!found)
+                missing << what;
+        };
+        auto has = [&need](QWidget* w, const char* kind, const QString& name, const QString& caption = QString()) {
+            QObject* control = w->findChild<QObject*>(name);
+            bool ok = control && control->inherits(kind);
+            if (ok && !caption.isNull()) {
+                if (auto* button = qobject_cast<QAbstractButton*>(control))
+                    ok = button->text() == caption;
+                else
+                    ok = false;
+            }
+            need(ok, name);
+        };
+        QStringList menus;
+        DialogDriver driver;
+        driver.next([&](QWidget* w) {
+            need(w->objectName() == QStringLiteral("FormBotsInteraction"), QStringLiteral("FormBotsInteraction"));
+            need(w->windowTitle() == QStringLiteral("RukaBots Interaction"), QStringLiteral("its caption"));
+            for (const char* name : {"LabelNumScene", "LabelNumPart", "LabelName"})
+                has(w, "QLabel", QString::fromLatin1(name));
+            has(w, "QListWidget", QStringLiteral("ListBotsInteraction"));
+            has(w, "QListWidget", QStringLiteral("ListRemarks"));
+            has(w, "QPushButton", QStringLiteral("CommandAdd"));
+            has(w, "QPushButton", QStringLiteral("CommandRemove"));
+            has(w, "QPushButton", QStringLiteral("CommandClose"), QStringLiteral("Close"));
+            for (const char* menu : {"File", "Edit", "GoTo", "Events"})
+                menus << menuOf(w, menu);
+            DialogDriver::click(w, QStringLiteral("CommandAdd"));
+            DialogDriver::click(w, QStringLiteral("CommandClose"));
+        });
+        driver.next([&](QWidget* w) {
+            need(w->objectName() == QStringLiteral("FormAddEditBotInter"), QStringLiteral("FormAddEditBotInter"));
+            need(w->windowTitle() == QStringLiteral("Add RukaBot Interaction Event"), QStringLiteral("its caption"));
+            for (const char* name : {"ComboInterType", "ComboSource", "ComboTarget", "ComboItemEmbrague",
+                                     "ComboItemSelect"})
+                has(w, "QComboBox", QString::fromLatin1(name));
+            const QStringList captions = labelCaptions(w);
+            for (const char* caption : {"Event Type", "Source", "RukaBot", "Embrague", "Item (Select)", "Remarks"})
+                need(captions.contains(QString::fromLatin1(caption)), QString::fromLatin1(caption));
+            for (int n = 1; n <= 6; ++n) {
+                has(w, "QComboBox", QStringLiteral("ComboItem%1").arg(n));
+                has(w, "QLineEdit", QStringLiteral("TextMIDIFile%1").arg(n));
+                has(w, "QPushButton", QStringLiteral("CommandBrowse%1").arg(n));
+                need(captions.contains(QStringLiteral("Item %1").arg(n)), QStringLiteral("Item %1").arg(n));
+                need(captions.contains(QStringLiteral("MIDI File %1").arg(n)), QStringLiteral("MIDI File %1").arg(n));
+            }
+            has(w, "QCheckBox", QStringLiteral("CheckLoop"), QStringLiteral("Loop"));
+            has(w, "QLineEdit", QStringLiteral("TextRemarks"));
+            for (const char* name : {"LabelNumScene", "LabelNumPart", "LabelNumEvent", "LabelName"})
+                has(w, "QLabel", QString::fromLatin1(name));
+            has(w, "QPushButton", QStringLiteral("CommandOK"));
+            has(w, "QPushButton", QStringLiteral("CommandCancel"));
+            menus << menuOf(w, "File");
+            DialogDriver::click(w, QStringLiteral("CommandCancel"));
+        });
+        session.clickBots(driver);
+        session.clickEndRow();
+        DialogDriver scenes;
+        scenes.next([&](QWidget* w) {
+            need(w->objectName() == QStringLiteral("FormBots"), QStringLiteral("FormBots"));
+            need(w->windowTitle() == QStringLiteral("RukaBots Interaction"), QStringLiteral("its caption"));
+            has(w, "QListWidget", QStringLiteral("ListBots"));
+            need(labelCaptions(w).contains(QStringLiteral("Scene    Subscene    Name")), QStringLiteral("list caption"));
+            has(w, "QPushButton", QStringLiteral("CommandClose"), QStringLiteral("Close"));
+            for (const char* menu : {"File", "GoTo"})
+                menus << menuOf(w, menu);
+            DialogDriver::click(w, QStringLiteral("CommandClose"));
+        });
+        session.clickBots(scenes);
+        QCOMPARE(missing, QStringList());
+        QCOMPARE(menus, (QStringList{
+                            "&File: Save=&Save Quit=&Quit",
+                            "&Edit: Copy=&Copy Cut=C&ut Paste=&Paste",
+                            "&Go To: ToMovies=&Movies ToAudio=&Audio ToLights=&Lights ToVideoCapture=Video &Capture",
+                            "E&vents: AddEvent=&Add EditEvent=&Edit RemoveEvent=&Remove",
+                            "&File: Save=&Save Quit=&Quit",
+                            "&File: Save=&Save Quit=&Quit",
+                            "&Go To: ToMovies=&Movies ToAudio=&MIDI ToOSC=&OSC ToArduino=&Arduino ToLights=&Lights "
+                            "ToVideoCapture=Video &Capture"}));
     }
 
     void aSceneRowOpensTheRulesOfItsFirstSubscene()
