@@ -167,13 +167,13 @@ void FormBotsInteraction::ListRemarks_DblClick(QListWidgetItem*) { EditEvent_Cli
 
 void FormBotsInteraction::openRuleDialog(qint16 mode)
 {
-    // The index of the rule worked on: the selected rule row, or the number of
-    // rows of the list, the empty row included, when the empty row or no row is
-    // selected.
+    // The index of the rule worked on: the selected row, or the number of rows
+    // of the list, the empty row included, when the empty row is selected; -1
+    // with no row selected.
     const int row = selectedRow();
     const int rules = ruleCount();
     const bool ruleRow = row >= 0 && row < rules;
-    gRuleIndex = static_cast<qint16>(ruleRow ? row : ListBotsInteraction->count());
+    gRuleIndex = static_cast<qint16>(row >= 0 && !ruleRow ? ListBotsInteraction->count() : row);
     gRuleEditMode = mode;
     {
         FormAddEditBotInter dialog(this);
@@ -183,8 +183,8 @@ void FormBotsInteraction::openRuleDialog(qint16 mode)
         return;
     auto event = std::make_shared<CBotEvent>();
     StoreBotRule(*event);
-    // Added ahead of the selected rule, or at the end from the empty row; an
-    // edit from the empty row has no rule to replace.
+    // Added ahead of the selected rule, or at the end from the empty row or with
+    // no row selected; an edit from there has no rule to replace.
     if (mode == 1)
         Skip([&] { currentPart().AddBotEvent(event, ruleRow ? row + 1 : rules + 1); });
     else if (ruleRow)

@@ -586,6 +586,34 @@ private slots:
         QCOMPARE(remarksOf(2, 1), (QStringList{"one", "two", "three"}));
     }
 
+    void withNoRowSelectedTheRuleIndexIsMinusOneAndAnAcceptedRuleGoesToTheEnd()
+    {
+        danceWithThreeRules();
+        QList<int> modes, indices;
+        QStringList remarks;
+        DialogDriver driver;
+        driver.next([&](QWidget* w) {
+            choose(w, QStringLiteral("AddEvent"));
+            choose(w, QStringLiteral("EditEvent"));
+            remarks = rowsOf(w, QStringLiteral("ListRemarks"));
+            DialogDriver::click(w, QStringLiteral("CommandClose"));
+        });
+        for (const char* text : {"appended", "nowhere"}) {
+            driver.next([&, text](QWidget* w) {
+                modes << gRuleEditMode;
+                indices << gRuleIndex;
+                gBotRemarks = QString::fromLatin1(text);
+                gRuleAccepted = true;
+                qobject_cast<QDialog*>(w)->done(QDialog::Accepted);
+            });
+        }
+        session.clickBots(driver);
+        QCOMPARE(modes, (QList<int>{1, 2}));
+        QCOMPARE(indices, (QList<int>{-1, -1}));
+        QCOMPARE(remarks, (QStringList{"one", "two", "three", "appended", ""}));
+        QVERIFY(!gRuleAccepted);
+    }
+
     void anAcceptedRuleIsBuiltFromTheFieldsInTransit()
     {
         // The dialog stores nothing itself; here the fields in transit are set and
