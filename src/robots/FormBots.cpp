@@ -10,6 +10,7 @@
 #include "model/SceneLists.h"
 #include "robots/FormBotsInteraction.h"
 #include "robots/ModuleBotSave.h"
+#include "rules/ModuleRuleEdit.h"
 #include "support/Controls.h"
 #include "support/OnError.h"
 
@@ -78,6 +79,11 @@ void FormBots::CommandClose_Click() { reject(); }
 
 void FormBots::Save_Click() { SaveFromBotForm(this); }
 
-void FormBots::Quit_Click() { reject(); }
+// Quit, as in the dialog of one robot rule, clears the accepted flag.
+void FormBots::Quit_Click()
+{
+    gRuleAccepted = false;
+    reject();
+}
 
 void FormBots::GoTo_Click() { reject(); }

@@ -81,6 +81,16 @@ FormBotsInteraction::FormBotsInteraction(QWidget* owner) : QDialog(owner)
 
     connect(ListBotsInteraction, &QListWidget::itemClicked, this, &FormBotsInteraction::ListBotsInteraction_Click);
     connect(ListRemarks, &QListWidget::itemClicked, this, &FormBotsInteraction::ListRemarks_Click);
+    // The arrow keys select a row as well: a change of the current row in the
+    // list that has the focus counts as a click on that row.
+    connect(ListBotsInteraction, &QListWidget::currentRowChanged, this, [this](int row) {
+        if (row >= 0 && ListBotsInteraction->hasFocus())
+            ListBotsInteraction_Click(ListBotsInteraction->item(row));
+    });
+    connect(ListRemarks, &QListWidget::currentRowChanged, this, [this](int row) {
+        if (row >= 0 && ListRemarks->hasFocus())
+            ListRemarks_Click(ListRemarks->item(row));
+    });
     connect(ListBotsInteraction, &QListWidget::itemDoubleClicked, this,
             &FormBotsInteraction::ListBotsInteraction_DblClick);
     connect(ListRemarks, &QListWidget::itemDoubleClicked, this, &FormBotsInteraction::ListRemarks_DblClick);
@@ -157,11 +167,13 @@ void FormBotsInteraction::ListRemarks_DblClick(QListWidgetItem*) { EditEvent_Cli
 
 void FormBotsInteraction::openRuleDialog(qint16 mode)
 {
-    // The index of the rule worked on: the selected rule row, or the number of
-    // rules (the index of the empty row) when the empty row or no row is selected.
+    // The index of the rule worked on: the selected row, or the number of rows
+    // of the list, the empty row included, when the empty row is selected; -1
+    // with no row selected.
     const int row = selectedRow();
     const int rules = ruleCount();
-    gRuleIndex = static_cast<qint16>(row >= 0 && row < rules ? row : rules);
+    const bool ruleRow = row >= 0 && row < rules;
+    gRuleIndex = static_cast<qint16>(row >= 0 && !ruleRow ? ListBotsInteraction->count() : row);
     gRuleEditMode = mode;
     {
         FormAddEditBotInter dialog(this);
@@ -171,10 +183,12 @@ void FormBotsInteraction::openRuleDialog(qint16 mode)
         return;
     auto event = std::make_shared<CBotEvent>();
     StoreBotRule(*event);
+    // Added ahead of the selected rule, or at the end from the empty row or with
+    // no row selected; an edit from there has no rule to replace.
     if (mode == 1)
-        Skip([&] { currentPart().AddBotEvent(event, gRuleIndex + 1); });
-    else
-        Skip([&] { CopyBotEvent(*currentPart().BotEvents.Item(gRuleIndex + 1), *event); });
+        Skip([&] { currentPart().AddBotEvent(event, ruleRow ? row + 1 : rules + 1); });
+    else if (ruleRow)
+        Skip([&] { CopyBotEvent(*currentPart().BotEvents.Item(row + 1), *event); });
     FillLists();
     gRuleAccepted = false;
 }
@@ -249,6 +263,11 @@ void FormBotsInteraction::Paste_Click()
 
 void FormBotsInteraction::Save_Click() { SaveFromBotForm(this); }
 
-void FormBotsInteraction::Quit_Click() { reject(); }
+// Quit, as in the dialog of one robot rule, clears the accepted flag.
+void FormBotsInteraction::Quit_Click()
+{
+    gRuleAccepted = false;
+    reject();
+}
 
 void FormBotsInteraction::GoTo_Click() { reject(); }

@@ -7,6 +7,7 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QTemporaryDir>
 #include "files/ModuleClipboard.h"
 #include "mainwindow/FormInitial.h"
@@ -20,6 +21,27 @@ namespace {
 QString labelText(QWidget* root, const char* name)
 {
     return DialogDriver::find<QLabel>(root, QString::fromLatin1(name))->text();
+}
+
+// The captions of the labels of a form, in no particular order.
+QStringList labelCaptions(QWidget* root)
+{
+    QStringList captions;
+    for (QLabel* label : root->findChildren<QLabel*>())
+        captions << label->text();
+    return captions;
+}
+
+// "Menu: entry=caption entry=caption" for a menu and its entries, in menu order.
+QString menuOf(QWidget* root, const char* name)
+{
+    auto* menu = root->findChild<QMenu*>(QString::fromLatin1(name));
+    if (!menu)
+        return QStringLiteral("no menu ") + QString::fromLatin1(name);
+    QString text = menu->title() + QLatin1Char(':');
+    for (QAction* entry : menu->actions())
+        text += QLatin1Char(' ') + entry->objectName() + QLatin1Char('=') + entry->text();
+    return text;
 }
 
 } // namespace
@@ -80,6 +102,93 @@ private slots:
         auto* bots = session.form->findChild<QPushButton*>(QStringLiteral("CommandBots"));
         QVERIFY(bots->isVisible());
         QVERIFY(bots->isEnabled());
+    }
+
+    void everyControlOfTheRobotFormsHasItsNameKindAndCaption()
+    {
+        danceWithThreeRules();
+        QStringList missing;
+        auto need = [&missing](bool found, const QString& what) {
+            if (!found)
+                missing << what;
+        };
+        auto has = [&need](QWidget* w, const char* kind, const QString& name, const QString& caption = QString()) {
+            QObject* control = w->findChild<QObject*>(name);
+            bool ok = control && control->inherits(kind);
+            if (ok && !caption.isNull()) {
+                if (auto* button = qobject_cast<QAbstractButton*>(control))
+                    ok = button->text() == caption;
+                else
+                    ok = false;
+            }
+            need(ok, name);
+        };
+        QStringList menus;
+        DialogDriver driver;
+        driver.next([&](QWidget* w) {
+            need(w->objectName() == QStringLiteral("FormBotsInteraction"), QStringLiteral("FormBotsInteraction"));
+            need(w->windowTitle() == QStringLiteral("RukaBots Interaction"), QStringLiteral("its caption"));
+            for (const char* name : {"LabelNumScene", "LabelNumPart", "LabelName"})
+                has(w, "QLabel", QString::fromLatin1(name));
+            has(w, "QListWidget", QStringLiteral("ListBotsInteraction"));
+            has(w, "QListWidget", QStringLiteral("ListRemarks"));
+            has(w, "QPushButton", QStringLiteral("CommandAdd"));
+            has(w, "QPushButton", QStringLiteral("CommandRemove"));
+            has(w, "QPushButton", QStringLiteral("CommandClose"), QStringLiteral("Close"));
+            for (const char* menu : {"File", "Edit", "GoTo", "Events"})
+                menus << menuOf(w, menu);
+            DialogDriver::click(w, QStringLiteral("CommandAdd"));
+            DialogDriver::click(w, QStringLiteral("CommandClose"));
+        });
+        driver.next([&](QWidget* w) {
+            need(w->objectName() == QStringLiteral("FormAddEditBotInter"), QStringLiteral("FormAddEditBotInter"));
+            need(w->windowTitle() == QStringLiteral("Add RukaBot Interaction Event"), QStringLiteral("its caption"));
+            for (const char* name : {"ComboInterType", "ComboSource", "ComboTarget", "ComboItemEmbrague",
+                                     "ComboItemSelect"})
+                has(w, "QComboBox", QString::fromLatin1(name));
+            const QStringList captions = labelCaptions(w);
+            for (const char* caption : {"Event Type", "Source", "RukaBot", "Embrague", "Item (Select)", "Remarks"})
+                need(captions.contains(QString::fromLatin1(caption)), QString::fromLatin1(caption));
+            for (int n = 1; n <= 6; ++n) {
+                has(w, "QComboBox", QStringLiteral("ComboItem%1").arg(n));
+                has(w, "QLineEdit", QStringLiteral("TextMIDIFile%1").arg(n));
+                has(w, "QPushButton", QStringLiteral("CommandBrowse%1").arg(n));
+                need(captions.contains(QStringLiteral("Item %1").arg(n)), QStringLiteral("Item %1").arg(n));
+                need(captions.contains(QStringLiteral("MIDI File %1").arg(n)), QStringLiteral("MIDI File %1").arg(n));
+            }
+            has(w, "QCheckBox", QStringLiteral("CheckLoop"), QStringLiteral("Loop"));
+            has(w, "QLineEdit", QStringLiteral("TextRemarks"));
+            for (const char* name : {"LabelNumScene", "LabelNumPart", "LabelNumEvent", "LabelName"})
+                has(w, "QLabel", QString::fromLatin1(name));
+            has(w, "QPushButton", QStringLiteral("CommandOK"));
+            has(w, "QPushButton", QStringLiteral("CommandCancel"));
+            menus << menuOf(w, "File");
+            DialogDriver::click(w, QStringLiteral("CommandCancel"));
+        });
+        session.clickBots(driver);
+        session.clickEndRow();
+        DialogDriver scenes;
+        scenes.next([&](QWidget* w) {
+            need(w->objectName() == QStringLiteral("FormBots"), QStringLiteral("FormBots"));
+            need(w->windowTitle() == QStringLiteral("RukaBots Interaction"), QStringLiteral("its caption"));
+            has(w, "QListWidget", QStringLiteral("ListBots"));
+            need(labelCaptions(w).contains(QStringLiteral("Scene    Subscene    Name")), QStringLiteral("list caption"));
+            has(w, "QPushButton", QStringLiteral("CommandClose"), QStringLiteral("Close"));
+            for (const char* menu : {"File", "GoTo"})
+                menus << menuOf(w, menu);
+            DialogDriver::click(w, QStringLiteral("CommandClose"));
+        });
+        session.clickBots(scenes);
+        QCOMPARE(missing, QStringList());
+        QCOMPARE(menus, (QStringList{
+                            "&File: Save=&Save Quit=&Quit",
+                            "&Edit: Copy=&Copy Cut=C&ut Paste=&Paste",
+                            "&Go To: ToMovies=&Movies ToAudio=&Audio ToLights=&Lights ToVideoCapture=Video &Capture",
+                            "E&vents: AddEvent=&Add EditEvent=&Edit RemoveEvent=&Remove",
+                            "&File: Save=&Save Quit=&Quit",
+                            "&File: Save=&Save Quit=&Quit",
+                            "&Go To: ToMovies=&Movies ToAudio=&MIDI ToOSC=&OSC ToArduino=&Arduino ToLights=&Lights "
+                            "ToVideoCapture=Video &Capture"}));
     }
 
     void aSceneRowOpensTheRulesOfItsFirstSubscene()
@@ -201,6 +310,30 @@ private slots:
         }
     }
 
+    void quitOfTheSceneListAndOfTheRuleListsClearsTheAcceptedFlag()
+    {
+        danceWithThreeRules();
+        QList<bool> hidden;
+        DialogDriver driver;
+        driver.next([&](QWidget* w) {
+            gRuleAccepted = true;
+            choose(w, QStringLiteral("Quit"));
+            hidden << !w->isVisible();
+        });
+        session.clickBots(driver);
+        QVERIFY(!gRuleAccepted);
+        session.clickEndRow();
+        DialogDriver scenes;
+        scenes.next([&](QWidget* w) {
+            gRuleAccepted = true;
+            choose(w, QStringLiteral("Quit"));
+            hidden << !w->isVisible();
+        });
+        session.clickBots(scenes);
+        QVERIFY(!gRuleAccepted);
+        QCOMPARE(hidden, (QList<bool>{true, true}));
+    }
+
     void theSceneListMenusCarryTheirCaptions()
     {
         session.clickEndRow();
@@ -254,6 +387,28 @@ private slots:
         });
         session.clickBots(driver);
         QCOMPARE(mirrored, (QList<int>{1, 2, 3, 0}));
+    }
+
+    void aRowSelectedWithTheArrowKeysIsSelectedInTheOtherList()
+    {
+        danceWithThreeRules();
+        QList<int> mirrored;
+        DialogDriver driver;
+        driver.next([&](QWidget* w) {
+            QListWidget* rules = listOf(w, QStringLiteral("ListBotsInteraction"));
+            QListWidget* remarks = listOf(w, QStringLiteral("ListRemarks"));
+            clickRow(w, QStringLiteral("ListBotsInteraction"), 0);
+            QTest::keyClick(rules, Qt::Key_Down);
+            mirrored << selectedRowOf(w, QStringLiteral("ListRemarks"));
+            QTest::keyClick(rules, Qt::Key_Down);
+            mirrored << selectedRowOf(w, QStringLiteral("ListRemarks"));
+            clickRow(w, QStringLiteral("ListRemarks"), 3);
+            QTest::keyClick(remarks, Qt::Key_Up);
+            mirrored << selectedRowOf(w, QStringLiteral("ListBotsInteraction"));
+            DialogDriver::click(w, QStringLiteral("CommandClose"));
+        });
+        session.clickBots(driver);
+        QCOMPARE(mirrored, (QList<int>{1, 2, 2}));
     }
 
     void removeWithYesDeletesTheRuleAndRefillsBothLists()
@@ -426,9 +581,37 @@ private slots:
             driver.next(look);
         session.clickBots(driver);
         QCOMPARE(modes, (QList<int>{1, 1, 2, 2, 2}));
-        // The empty row stands for the place after the last rule.
-        QCOMPARE(indices, (QList<int>{1, 3, 2, 0, 1}));
+        // The empty row gives the number of rows of the list, itself included.
+        QCOMPARE(indices, (QList<int>{1, 4, 2, 0, 1}));
         QCOMPARE(remarksOf(2, 1), (QStringList{"one", "two", "three"}));
+    }
+
+    void withNoRowSelectedTheRuleIndexIsMinusOneAndAnAcceptedRuleGoesToTheEnd()
+    {
+        danceWithThreeRules();
+        QList<int> modes, indices;
+        QStringList remarks;
+        DialogDriver driver;
+        driver.next([&](QWidget* w) {
+            choose(w, QStringLiteral("AddEvent"));
+            choose(w, QStringLiteral("EditEvent"));
+            remarks = rowsOf(w, QStringLiteral("ListRemarks"));
+            DialogDriver::click(w, QStringLiteral("CommandClose"));
+        });
+        for (const char* text : {"appended", "nowhere"}) {
+            driver.next([&, text](QWidget* w) {
+                modes << gRuleEditMode;
+                indices << gRuleIndex;
+                gBotRemarks = QString::fromLatin1(text);
+                gRuleAccepted = true;
+                qobject_cast<QDialog*>(w)->done(QDialog::Accepted);
+            });
+        }
+        session.clickBots(driver);
+        QCOMPARE(modes, (QList<int>{1, 2}));
+        QCOMPARE(indices, (QList<int>{-1, -1}));
+        QCOMPARE(remarks, (QStringList{"one", "two", "three", "appended", ""}));
+        QVERIFY(!gRuleAccepted);
     }
 
     void anAcceptedRuleIsBuiltFromTheFieldsInTransit()
@@ -471,6 +654,33 @@ private slots:
         QCOMPARE(added.m_strMIDIFile2, QStringLiteral("C:\\midi\\two.mid"));
         QVERIFY(added.m_bLoop);
         QCOMPARE(PartAt(2, 1).BotEvents.Item(4)->m_iRukaBot, qint16(5));
+    }
+
+    void anAcceptedRuleAddedFromTheEmptyRowGoesToTheEnd()
+    {
+        danceWithThreeRules();
+        QStringList remarks;
+        DialogDriver driver;
+        driver.next([&](QWidget* w) {
+            clickRow(w, QStringLiteral("ListRemarks"), 3);
+            DialogDriver::click(w, QStringLiteral("CommandAdd"));
+            clickRow(w, QStringLiteral("ListRemarks"), 4);
+            choose(w, QStringLiteral("EditEvent"));
+            remarks = rowsOf(w, QStringLiteral("ListRemarks"));
+            DialogDriver::click(w, QStringLiteral("CommandClose"));
+        });
+        for (const char* text : {"last", "nowhere"}) {
+            driver.next([text](QWidget* w) {
+                gBotRemarks = QString::fromLatin1(text);
+                gRuleAccepted = true;
+                qobject_cast<QDialog*>(w)->done(QDialog::Accepted);
+            });
+        }
+        session.clickBots(driver);
+        // An edit from the empty row has no rule to replace.
+        QCOMPARE(remarks, (QStringList{"one", "two", "three", "last", ""}));
+        QCOMPARE(remarksOf(2, 1), (QStringList{"one", "two", "three", "last"}));
+        QVERIFY(!gRuleAccepted);
     }
 
     void browsePutsTheChosenMIDIFileIntoItsTextBox()
