@@ -14,7 +14,9 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QStandardPaths>
+#include <QMouseEvent>
 #include <QThread>
+#include <QTimer>
 #include <QTreeWidget>
 #include "files/ModuleSaveOpen.h"
 #include "mainwindow/FormEntry.h"
@@ -132,7 +134,7 @@ void FormInitial::buildMenus()
     Save->setShortcut(QKeySequence::Save);
     Quit->setShortcut(QKeySequence::Quit);
     // Commands still to come are shown but not offered.
-    for (QAction* a : {Print, Cut, Copy, Paste, AddScene, EditScene, Remove})
+    for (QAction* a : {Cut, Copy, Paste})
         a->setEnabled(false);
 }
 
@@ -183,12 +185,8 @@ void FormInitial::buildRuleView(QWidget* area)
     }
     ListEvents = named(new QTreeWidget(area), QStringLiteral("ListEvents"));
     SetupRuleListColumns(ListEvents);
-    // Scene commands and colours still to come are shown but not offered.
-    for (QPushButton* b : {CommandAddScene, CommandEdit, CommandDelete, CommandBots, CommandShowConfig})
-        b->setEnabled(false);
-    for (QPushButton* b : CommandColor)
-        b->setEnabled(false);
     ListEvents->setRootIsDecorated(false);
+    ListEvents->header()->setSectionsClickable(true);
     ListEvents->setSelectionMode(QAbstractItemView::ExtendedSelection);
     const int widths[7] = {40, 60, 60, 50, 90, 140, 300};
     for (int c = 0; c < 7; ++c)
@@ -264,6 +262,27 @@ void FormInitial::connectHandlers()
     connect(CommandLock, &QPushButton::clicked, this, &FormInitial::CommandLock_Click);
     connect(txtEvPerSec, &QLineEdit::textEdited, this, &FormInitial::txtEvPerSec_Change);
     connect(ListMain2, &QTreeWidget::itemClicked, this, &FormInitial::ListMain2_Click);
+    connect(AddScene, &QAction::triggered, this, &FormInitial::AddScene_Click);
+    connect(EditScene, &QAction::triggered, this, &FormInitial::EditScene_Click);
+    connect(Remove, &QAction::triggered, this, &FormInitial::Remove_Click);
+    connect(CommandAddScene, &QPushButton::clicked, this, &FormInitial::CommandAddScene_Click);
+    connect(CommandEdit, &QPushButton::clicked, this, &FormInitial::CommandEdit_Click);
+    connect(CommandDelete, &QPushButton::clicked, this, &FormInitial::CommandDelete_Click);
+    connect(CommandUp, &QPushButton::clicked, this, &FormInitial::CommandUp_Click);
+    connect(CommandDown, &QPushButton::clicked, this, &FormInitial::CommandDown_Click);
+    for (int i = 0; i < CommandColor.size(); ++i)
+        connect(CommandColor[i], &QPushButton::clicked, this, [this, i] { CommandColor_Click(i); });
+    connect(ListEvents->header(), &QHeaderView::sectionClicked, this, &FormInitial::ListEvents_ColumnClick);
+    ListMain2->viewport()->installEventFilter(this);
+    ListEvents->viewport()->installEventFilter(this);
+    // A failure of printing is not trapped: it ends the program.
+    connect(Print, &QAction::triggered, this, [this] {
+        try {
+            Print_Click();
+        } catch (const RuntimeError& error) {
+            EndWithRunTimeError(error);
+        }
+    });
     connect(ListGlobalRules, &QListWidget::itemClicked, this, &FormInitial::ListGlobalRules_Click);
     connect(TextSearched, &QComboBox::activated, this, &FormInitial::TextSearched_Change);
     connect(TextSearched->lineEdit(), &QLineEdit::textEdited, this, &FormInitial::TextSearched_Change);
@@ -322,6 +341,32 @@ void FormInitial::Form_Load()
     resize(twips(14400), twips(10775));
     CommandUp->hide();
     CommandDown->hide();
+}
+
+// The mouse over the two lists: the pointer's place, the clicks and the double click.
+bool FormInitial::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool scenes = watched == ListMain2->viewport();
+    const bool rules = watched == ListEvents->viewport();
+    if (!scenes && !rules)
+        return QMainWindow::eventFilter(watched, event);
+    const QEvent::Type type = event->type();
+    if (type == QEvent::MouseButtonPress || type == QEvent::MouseButtonRelease || type == QEvent::MouseButtonDblClick) {
+        const QPointF at = static_cast<QMouseEvent*>(event)->position();
+        const auto x = static_cast<float>(at.x());
+        const auto y = static_cast<float>(at.y());
+        if (scenes && type == QEvent::MouseButtonPress)
+            ListMain2_MouseDown(x, y);
+        else if (scenes && type == QEvent::MouseButtonRelease)
+            ListMain2_MouseUp(x, y);
+        else if (scenes && type == QEvent::MouseButtonDblClick)
+            QTimer::singleShot(0, this, &FormInitial::ListMain2_DblClick);
+        else if (rules && type == QEvent::MouseButtonRelease) {
+            ListEvents_MouseUp(x, y);
+            ListEvents_Click();
+        }
+    }
+    return QMainWindow::eventFilter(watched, event);
 }
 
 void FormInitial::resizeEvent(QResizeEvent* event)
@@ -508,8 +553,11 @@ void FormInitial::New_Click()
         ListMain2->topLevelItem(0)->setSelected(true);
         ListMain2_Click();
     }
+    // The labels and the rule list for the search text; the selection of a
+    // scene is left to the handlers that make one.
     FillGroups(TextSearched);
-    TextSearched_Change();
+    gCurrentGroup = TextSearched->currentText();
+    RefreshRuleView();
 }
 
 // ---------------------------------------------------------------- Open, Save, Save As

@@ -6,6 +6,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include "mainwindow/FormComponentsAndPorts.h"
+#include "mainwindow/FormTalpor.h"
 #include "model/CMainConfig.h"
 #include "model/ModuleGlobals.h"
 #include "support/Convert.h"
@@ -81,10 +83,14 @@ void FormInitial::CommandItems_Click()
 
 void FormInitial::CommandTalpor_Click()
 {
+    FormTalpor dialog(this);
+    dialog.exec();
 }
 
 void FormInitial::CommandShowConfig_Click()
 {
+    FormComponentsAndPorts dialog(this);
+    dialog.exec();
 }
 
 void FormInitial::deviceCountActivated(QComboBox* combo, qint16& member, bool always)
