@@ -359,8 +359,11 @@ bool FormInitial::eventFilter(QObject* watched, QEvent* event)
             ListMain2_MouseDown(x, y);
         else if (scenes && type == QEvent::MouseButtonRelease)
             ListMain2_MouseUp(x, y);
-        else if (scenes && type == QEvent::MouseButtonDblClick)
-            QTimer::singleShot(0, this, &FormInitial::ListMain2_DblClick);
+        else if (scenes && type == QEvent::MouseButtonDblClick) {
+            // The second press of a double click comes as the double click itself.
+            ListMain2_MouseDown(x, y);
+            ListMain2_DblClick();
+        }
         else if (rules && type == QEvent::MouseButtonRelease) {
             ListEvents_MouseUp(x, y);
             ListEvents_Click();
