@@ -19,6 +19,7 @@
 #include <QTimer>
 #include <QTreeWidget>
 #include "files/ModuleSaveOpen.h"
+#include "mainwindow/FormComponents.h"
 #include "mainwindow/FormEntry.h"
 #include "mainwindow/FormName.h"
 #include "model/CArduinoData.h"
@@ -122,6 +123,7 @@ void FormInitial::buildMenus()
     Paste = entry(Edit, QStringLiteral("Paste"), QStringLiteral("Paste"));
     Setup = menu(nullptr, QStringLiteral("Setup"), QStringLiteral("&Setup"));
     TheName = entry(Setup, QStringLiteral("TheName"), QStringLiteral("&Name"));
+    Components = entry(Setup, QStringLiteral("Components"), QStringLiteral("&Components..."));
     ScenesParts = menu(Setup, QStringLiteral("ScenesParts"), QStringLiteral("&Scenes"));
     AddScene = entry(ScenesParts, QStringLiteral("AddScene"), QStringLiteral("&Add"));
     EditScene = entry(ScenesParts, QStringLiteral("EditScene"), QStringLiteral("&Edit"));
@@ -255,6 +257,7 @@ void FormInitial::connectHandlers()
     connect(SaveAs, &QAction::triggered, this, &FormInitial::SaveAs_Click);
     connect(Quit, &QAction::triggered, this, &FormInitial::Quit_Click);
     connect(TheName, &QAction::triggered, this, &FormInitial::TheName_Click);
+    connect(Components, &QAction::triggered, this, &FormInitial::Components_Click);
     connect(About, &QAction::triggered, this, &FormInitial::About_Click);
     connect(CommandConn, &QPushButton::clicked, this, &FormInitial::CommandConn_Click);
     connect(CommandRules, &QPushButton::clicked, this, &FormInitial::CommandRules_Click);
@@ -631,6 +634,16 @@ void FormInitial::TheName_Click()
     dialog.exec();
     if (gMainConfig.m_bUpdate) {
         TextName->setText(gMainConfig.m_strName);
+        gMainConfig.m_bUpdate = false;
+    }
+}
+
+void FormInitial::Components_Click()
+{
+    FormComponents dialog(this);
+    dialog.exec();
+    if (gMainConfig.m_bUpdate) {
+        ShowDeviceCounts();
         gMainConfig.m_bUpdate = false;
     }
 }

@@ -38,6 +38,7 @@ public:
     QAction* Paste;
     QMenu* Setup;
     QAction* TheName;
+    QAction* Components;           // the device counts as one dialog
     QMenu* ScenesParts;
     QAction* AddScene;
     QAction* EditScene;
@@ -120,6 +121,7 @@ public:
     void SaveAs_Click();
     void Quit_Click();
     void TheName_Click();
+    void Components_Click();
     void About_Click();
 
     // Copies the title of the performance into TextName.

@@ -1,6 +1,7 @@
 // The small dialogs of the device panel and the rule view: the Talpor robot's
 // port and the read-only summary of components and ports.
 #include <QtTest>
+#include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -136,6 +137,54 @@ private slots:
         click(QStringLiteral("CommandShowConfig"));
         QVERIFY2(driver.finished(), qPrintable(driver.error()));
         QCOMPARE(driver.seen(), (QStringList{"QEL Components & Ports"}));
+        QCOMPARE(gDirty, false);
+    }
+
+    void theComponentsDialogFromTheSetupMenuSetsTheCounts()
+    {
+        gMainConfig.m_iNOSCs = 2;
+        DialogDriver driver;
+        QString caption, oscs;
+        driver.next([&](QWidget* w) {
+            caption = w->windowTitle();
+            oscs = DialogDriver::find<QComboBox>(w, QStringLiteral("ComboNOSCs"))->currentText();
+            DialogDriver::pick(w, QStringLiteral("ComboNExos"), QStringLiteral("2"));
+            DialogDriver::pick(w, QStringLiteral("ComboNArduinos"), QStringLiteral("5"));
+            DialogDriver::type(w, QStringLiteral("txtEvPerSec"), QStringLiteral("24"));
+            DialogDriver::click(w, QStringLiteral("CommandOK"));
+        });
+        session.menu("Components")->trigger();
+        QVERIFY2(driver.finished(), qPrintable(driver.error()));
+        QCOMPARE(caption, QStringLiteral("Performance Components Configuration"));
+        QCOMPARE(oscs, QStringLiteral("2"));
+        QCOMPARE(gMainConfig.m_iNExos, qint16(2));
+        QCOMPARE(gMainConfig.m_iNArduinos, qint16(5));
+        QCOMPARE(gMainConfig.m_iNOSCs, qint16(2));
+        QCOMPARE(gMainConfig.m_iEventsPerSec, qint16(24));
+        QCOMPARE(gDirty, true);
+        QCOMPARE(gMainConfig.m_bUpdate, false);
+        // The panel shows the new counts.
+        QCOMPARE(form->ComboNExos->currentText(), QStringLiteral("2"));
+        QCOMPARE(form->txtEvPerSec->text(), QStringLiteral("24"));
+    }
+
+    void theComponentsDialogCancelChangesNothingAndNamesScreenManagers()
+    {
+        DialogDriver driver;
+        QString message;
+        driver.next([](QWidget* w) {
+            DialogDriver::pick(w, QStringLiteral("ComboNExos"), QStringLiteral("1"));
+            DialogDriver::click(w, QStringLiteral("CommandScreen"));
+        });
+        driver.next([&](QWidget* w) {
+            message = DialogDriver::text(w);
+            DialogDriver::press(w, QMessageBox::Ok);
+            DialogDriver::click(qobject_cast<QWidget*>(QApplication::activeModalWidget()), QStringLiteral("CommandCancel"));
+        });
+        session.menu("Components")->trigger();
+        QVERIFY2(driver.finished(), qPrintable(driver.error()));
+        QCOMPARE(message, QStringLiteral("No QEL Screen Managers to configure!"));
+        QCOMPARE(gMainConfig.m_iNExos, qint16(0));
         QCOMPARE(gDirty, false);
     }
 
