@@ -181,7 +181,8 @@ void FormInitial::buildRuleView(QWidget* area)
                                  QStringLiteral("Movies Interaction"), QStringLiteral("Arduino Interaction"),
                                  QStringLiteral("OSC Interaction")};
     for (int i = 0; i < filters.size(); ++i) {
-        auto* b = named(new QPushButton(filters[i], area), arrayName(QStringLiteral("CommandTargetsFilt"), i));
+        // Picture buttons: a short word stands for the picture, the hint gives the whole caption.
+        auto* b = named(new QPushButton(filters[i].section(u' ', 0, 0), area), arrayName(QStringLiteral("CommandTargetsFilt"), i));
         b->setToolTip(filters[i]);
         CommandTargetsFilt << b;
     }
@@ -423,7 +424,7 @@ void FormInitial::layoutControls()
     TextSearched->setGeometry(left2 + 90, 126, 200, 24);
     CommandAdd->setGeometry(left2 + 300, 125, 130, 26);
     for (int i = 0; i < CommandTargetsFilt.size(); ++i)
-        CommandTargetsFilt[i]->setGeometry(w - right - (CommandTargetsFilt.size() - i) * 122, 50, 120, 24);
+        CommandTargetsFilt[i]->setGeometry(w - right - (CommandTargetsFilt.size() - i) * 72, h - belowRules + 16, 70, 26);
     ListEvents->setGeometry(left2, 156, w - left2 - right, h - 156 - belowRules);
 
     // Device view.
