@@ -6,13 +6,14 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include "mainwindow/FormComponentsAndPorts.h"
-#include "mainwindow/FormTalpor.h"
 #include "model/CMainConfig.h"
 #include "model/ModuleGlobals.h"
 #include "support/Convert.h"
 #include "support/ModuleGUI.h"
 #include "support/RuntimeError.h"
+// The panel's own small dialogs.
+#include "mainwindow/FormComponentsAndPorts.h"
+#include "mainwindow/FormTalpor.h"
 
 // A click in a count's list: the count takes the list index when it differs
 // (always, for MIDI and video capture), and the performance counts as changed.

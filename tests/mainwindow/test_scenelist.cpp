@@ -375,6 +375,21 @@ private slots:
         QCOMPARE(gScenes.Count(), 3);
     }
 
+    void removeWithTheFocusOnTheRuleListLeavesTheScenes()
+    {
+        makeScenes(3);
+        clickRow(1);
+        DialogDriver driver(1500);
+        form->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(form.get()));
+        form->ListEvents->setFocus();
+        QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(form->ListEvents));
+        session.menu("Remove")->trigger();
+        QVERIFY2(driver.finished(), qPrintable(driver.error()));
+        QVERIFY(driver.seen().isEmpty());
+        QCOMPARE(gScenes.Count(), 3);
+    }
+
     // ---------------------------------------------------------------- moves
 
     void oneSceneMovesUpAndDown()
