@@ -1,10 +1,12 @@
 // The scene list as an operator works it: add, edit, remove, move and colour
 // scenes through the buttons, the Scenes menu, the double click and the scene dialog.
 #include <QtTest>
+#include <cstdio>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QProcess>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTreeWidget>
@@ -16,9 +18,10 @@
 #include "model/ModuleGlobals.h"
 #include "model/SceneLists.h"
 #include "support/DialogDriver.h"
-#include "support/Platform.h"
 #include "support/TestData.h"
 #include "mainwindow/MainWindowSession.h"
+
+static const char* const kColourAndClose = "--colour-and-close";
 
 class TestSceneList : public QObject {
     Q_OBJECT
@@ -491,20 +494,52 @@ private slots:
 
     void aColourChangeThenClosingAsksNothingAndTheAutoSaveHasTheColour()
     {
-        clickRow(0);
-        click(QStringLiteral("CommandColor(4)"));
-        QCOMPARE(gDirty, false);
-        DialogDriver driver(1500);
-        QVERIFY(form->close());
-        const QByteArray file = ReadBytes(gConfigFolder + gConfigName + QStringLiteral("/Scenes.cfg"));
-        QVERIFY2(driver.finished(), qPrintable(driver.error()));
-        QVERIFY(driver.seen().isEmpty());
+        // In a copy of this program in a folder of its own, so that the auto-save lands there.
+        QTemporaryDir folder;
+        const QString copy = folder.filePath(QStringLiteral("colour_child"));
+        QVERIFY(QFile::copy(QCoreApplication::applicationFilePath(), copy));
+        QFile::setPermissions(copy, QFile::permissions(copy) | QFileDevice::ExeOwner);
+        QProcess child;
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        child.setProcessEnvironment(env);
+        child.start(copy, {QString::fromLatin1(kColourAndClose)});
+        QVERIFY(child.waitForFinished(60000));
+        const QString out = QString::fromLocal8Bit(child.readAllStandardOutput());
+        QCOMPARE(child.exitCode(), 0);
+        QVERIFY2(out.contains(QStringLiteral("dialogs: 0")), qPrintable(out));   // nothing was asked
+        const QStringList saves = QDir(folder.filePath(QStringLiteral("AutoSave"))).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+        QCOMPARE(saves.size(), 1);
+        const QByteArray file = ReadBytes(folder.filePath(QStringLiteral("AutoSave/%1/Scenes.cfg").arg(saves.first())));
         QVERIFY(file.contains("; Name:\r\nSCENE 1\r\n\r\n; Color:\r\n 12 \r\n"));
-        QDir(AutoSaveRoot() + QStringLiteral("/AutoSave")).removeRecursively();
-        session.stop();
-        session.start();
     }
 };
 
-QTEST_MAIN(TestSceneList)
+// The child: colour the first scene red, then close the window as a person would.
+static int colourAndClose()
+{
+    MainWindowSession session;
+    session.start();
+    session.form->CommandConn_Click();
+    QTreeWidget* list = session.form->ListMain2;
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->topLevelItem(0)).center());
+    DialogDriver::click(session.form.get(), QStringLiteral("CommandColor(4)"));
+    DialogDriver driver(1500);
+    session.form->close();
+    driver.finished();
+    std::printf("dirty: %d\ndialogs: %d\n", int(gDirty), int(driver.seen().size()));
+    std::fflush(stdout);
+    session.form.reset();
+    return 0;
+}
+
+int main(int argc, char** argv)
+{
+    QApplication app(argc, argv);
+    if (argc > 1 && qstrcmp(argv[1], kColourAndClose) == 0)
+        return colourAndClose();
+    TestSceneList test;
+    QTEST_SET_MAIN_SOURCE_PATH
+    return QTest::qExec(&test, argc, argv);
+}
 #include "test_scenelist.moc"
