@@ -154,7 +154,10 @@ void FormInitial::EditScene_Click()
         return;
     gCurrentScene = iSelectedRow;
     gCurrentPart = 0;
-    const auto& scene = gScenes.Item(gCurrentScene + 1);
+    std::shared_ptr<CScene> scene;
+    Skip([&] { scene = gScenes.Item(gCurrentScene + 1); });
+    if (!scene)
+        return;   // the list is out of step with the scenes: there is nothing to edit
     gSceneDlgName = scene->m_strName;
     gSceneDlgRemarks = scene->m_strRemarks;
     for (int i = 0; i < gMainConfig.m_iNFlash; ++i)
@@ -203,7 +206,7 @@ void FormInitial::Remove_Click()
         gCurrentPart = 0;
         if (MsgBox(QStringLiteral("Delete Scene?"), MsgButtons::YesNo) == MsgAnswer::No)
             return;
-        gScenes.Remove(gCurrentScene + 1);
+        Skip([&] { gScenes.Remove(gCurrentScene + 1); });
         --gLastScene;
         for (int i = 1; i <= gScenes.Count(); ++i)
             gScenes.Item(i)->m_iID = static_cast<qint16>(i - 1);
