@@ -14,9 +14,12 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QStandardPaths>
+#include <QMouseEvent>
 #include <QThread>
+#include <QTimer>
 #include <QTreeWidget>
 #include "files/ModuleSaveOpen.h"
+#include "mainwindow/FormComponents.h"
 #include "mainwindow/FormEntry.h"
 #include "mainwindow/FormName.h"
 #include "model/CArduinoData.h"
@@ -120,6 +123,7 @@ void FormInitial::buildMenus()
     Paste = entry(Edit, QStringLiteral("Paste"), QStringLiteral("Paste"));
     Setup = menu(nullptr, QStringLiteral("Setup"), QStringLiteral("&Setup"));
     TheName = entry(Setup, QStringLiteral("TheName"), QStringLiteral("&Name"));
+    Components = entry(Setup, QStringLiteral("Components"), QStringLiteral("&Components..."));
     ScenesParts = menu(Setup, QStringLiteral("ScenesParts"), QStringLiteral("&Scenes"));
     AddScene = entry(ScenesParts, QStringLiteral("AddScene"), QStringLiteral("&Add"));
     EditScene = entry(ScenesParts, QStringLiteral("EditScene"), QStringLiteral("&Edit"));
@@ -133,7 +137,7 @@ void FormInitial::buildMenus()
     Save->setShortcut(QKeySequence::Save);
     Quit->setShortcut(QKeySequence::Quit);
     // Commands still to come are shown but not offered.
-    for (QAction* a : {Print, Cut, Copy, Paste, AddScene, EditScene, Remove})
+    for (QAction* a : {Cut, Copy, Paste})
         a->setEnabled(false);
 }
 
@@ -178,18 +182,15 @@ void FormInitial::buildRuleView(QWidget* area)
                                  QStringLiteral("Movies Interaction"), QStringLiteral("Arduino Interaction"),
                                  QStringLiteral("OSC Interaction")};
     for (int i = 0; i < filters.size(); ++i) {
-        auto* b = named(new QPushButton(filters[i], area), arrayName(QStringLiteral("CommandTargetsFilt"), i));
+        // Picture buttons: a short word stands for the picture, the hint gives the whole caption.
+        auto* b = named(new QPushButton(filters[i].section(u' ', 0, 0), area), arrayName(QStringLiteral("CommandTargetsFilt"), i));
         b->setToolTip(filters[i]);
         CommandTargetsFilt << b;
     }
     ListEvents = named(new QTreeWidget(area), QStringLiteral("ListEvents"));
     SetupRuleListColumns(ListEvents);
-    // Scene commands and colours still to come are shown but not offered.
-    for (QPushButton* b : {CommandAddScene, CommandEdit, CommandDelete, CommandShowConfig})
-        b->setEnabled(false);
-    for (QPushButton* b : CommandColor)
-        b->setEnabled(false);
     ListEvents->setRootIsDecorated(false);
+    ListEvents->header()->setSectionsClickable(true);
     ListEvents->setSelectionMode(QAbstractItemView::ExtendedSelection);
     const int widths[7] = {40, 60, 60, 50, 90, 140, 300};
     for (int c = 0; c < 7; ++c)
@@ -258,6 +259,7 @@ void FormInitial::connectHandlers()
     connect(SaveAs, &QAction::triggered, this, &FormInitial::SaveAs_Click);
     connect(Quit, &QAction::triggered, this, &FormInitial::Quit_Click);
     connect(TheName, &QAction::triggered, this, &FormInitial::TheName_Click);
+    connect(Components, &QAction::triggered, this, &FormInitial::Components_Click);
     connect(About, &QAction::triggered, this, &FormInitial::About_Click);
     connect(CommandConn, &QPushButton::clicked, this, &FormInitial::CommandConn_Click);
     connect(CommandRules, &QPushButton::clicked, this, &FormInitial::CommandRules_Click);
@@ -265,6 +267,27 @@ void FormInitial::connectHandlers()
     connect(CommandLock, &QPushButton::clicked, this, &FormInitial::CommandLock_Click);
     connect(txtEvPerSec, &QLineEdit::textEdited, this, &FormInitial::txtEvPerSec_Change);
     connect(ListMain2, &QTreeWidget::itemClicked, this, &FormInitial::ListMain2_Click);
+    connect(AddScene, &QAction::triggered, this, &FormInitial::AddScene_Click);
+    connect(EditScene, &QAction::triggered, this, &FormInitial::EditScene_Click);
+    connect(Remove, &QAction::triggered, this, &FormInitial::Remove_Click);
+    connect(CommandAddScene, &QPushButton::clicked, this, &FormInitial::CommandAddScene_Click);
+    connect(CommandEdit, &QPushButton::clicked, this, &FormInitial::CommandEdit_Click);
+    connect(CommandDelete, &QPushButton::clicked, this, &FormInitial::CommandDelete_Click);
+    connect(CommandUp, &QPushButton::clicked, this, &FormInitial::CommandUp_Click);
+    connect(CommandDown, &QPushButton::clicked, this, &FormInitial::CommandDown_Click);
+    for (int i = 0; i < CommandColor.size(); ++i)
+        connect(CommandColor[i], &QPushButton::clicked, this, [this, i] { CommandColor_Click(i); });
+    connect(ListEvents->header(), &QHeaderView::sectionClicked, this, &FormInitial::ListEvents_ColumnClick);
+    ListMain2->viewport()->installEventFilter(this);
+    ListEvents->viewport()->installEventFilter(this);
+    // A failure of printing is not trapped: it ends the program.
+    connect(Print, &QAction::triggered, this, [this] {
+        try {
+            Print_Click();
+        } catch (const RuntimeError& error) {
+            EndWithRunTimeError(error);
+        }
+    });
     connect(ListGlobalRules, &QListWidget::itemClicked, this, &FormInitial::ListGlobalRules_Click);
     connect(TextSearched, &QComboBox::activated, this, &FormInitial::TextSearched_Change);
     connect(TextSearched->lineEdit(), &QLineEdit::textEdited, this, &FormInitial::TextSearched_Change);
@@ -326,6 +349,35 @@ void FormInitial::Form_Load()
     CommandDown->hide();
 }
 
+// The mouse over the two lists: the pointer's place, the clicks and the double click.
+bool FormInitial::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool scenes = watched == ListMain2->viewport();
+    const bool rules = watched == ListEvents->viewport();
+    if (!scenes && !rules)
+        return QMainWindow::eventFilter(watched, event);
+    const QEvent::Type type = event->type();
+    if (type == QEvent::MouseButtonPress || type == QEvent::MouseButtonRelease || type == QEvent::MouseButtonDblClick) {
+        const QPointF at = static_cast<QMouseEvent*>(event)->position();
+        const auto x = static_cast<float>(at.x());
+        const auto y = static_cast<float>(at.y());
+        if (scenes && type == QEvent::MouseButtonPress)
+            ListMain2_MouseDown(x, y);
+        else if (scenes && type == QEvent::MouseButtonRelease)
+            ListMain2_MouseUp(x, y);
+        else if (scenes && type == QEvent::MouseButtonDblClick) {
+            // The second press of a double click comes as the double click itself.
+            ListMain2_MouseDown(x, y);
+            ListMain2_DblClick();
+        }
+        else if (rules && type == QEvent::MouseButtonRelease) {
+            ListEvents_MouseUp(x, y);
+            ListEvents_Click();
+        }
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
 void FormInitial::resizeEvent(QResizeEvent* event)
 {
     QMainWindow::resizeEvent(event);
@@ -374,7 +426,7 @@ void FormInitial::layoutControls()
     TextSearched->setGeometry(left2 + 90, 126, 200, 24);
     CommandAdd->setGeometry(left2 + 300, 125, 130, 26);
     for (int i = 0; i < CommandTargetsFilt.size(); ++i)
-        CommandTargetsFilt[i]->setGeometry(w - right - (CommandTargetsFilt.size() - i) * 122, 50, 120, 24);
+        CommandTargetsFilt[i]->setGeometry(w - right - (CommandTargetsFilt.size() - i) * 72, h - belowRules + 16, 70, 26);
     ListEvents->setGeometry(left2, 156, w - left2 - right, h - 156 - belowRules);
 
     // Device view.
@@ -510,8 +562,11 @@ void FormInitial::New_Click()
         ListMain2->topLevelItem(0)->setSelected(true);
         ListMain2_Click();
     }
+    // The labels and the rule list for the search text; the selection of a
+    // scene is left to the handlers that make one.
     FillGroups(TextSearched);
-    TextSearched_Change();
+    gCurrentGroup = TextSearched->currentText();
+    RefreshRuleView();
 }
 
 // ---------------------------------------------------------------- Open, Save, Save As
@@ -582,6 +637,16 @@ void FormInitial::TheName_Click()
     dialog.exec();
     if (gMainConfig.m_bUpdate) {
         TextName->setText(gMainConfig.m_strName);
+        gMainConfig.m_bUpdate = false;
+    }
+}
+
+void FormInitial::Components_Click()
+{
+    FormComponents dialog(this);
+    dialog.exec();
+    if (gMainConfig.m_bUpdate) {
+        ShowDeviceCounts();
         gMainConfig.m_bUpdate = false;
     }
 }

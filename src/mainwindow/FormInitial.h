@@ -38,6 +38,7 @@ public:
     QAction* Paste;
     QMenu* Setup;
     QAction* TheName;
+    QAction* Components;           // the device counts as one dialog
     QMenu* ScenesParts;
     QAction* AddScene;
     QAction* EditScene;
@@ -103,6 +104,12 @@ public:
 
     // 0-based row of ListMain2 last selected; -1 when no scene row is selected.
     qint16 iSelectedRow = -1;
+    // 0-based position of the rule of the row last clicked in ListEvents; -1: none.
+    qint16 iSelectedRule = -1;
+    // Where the pointer was when a mouse button last went up over ListEvents or
+    // ListMain2 (or down over ListMain2), in the list's own coordinates.
+    float fMouseX = 0;
+    float fMouseY = 0;
 
     // The start sequence: runs before the window is shown.
     void Form_Load();
@@ -118,6 +125,7 @@ public:
     void SaveAs_Click();
     void Quit_Click();
     void TheName_Click();
+    void Components_Click();
     void About_Click();
 
     // Copies the title of the performance into TextName.
@@ -154,15 +162,40 @@ public:
     void CommandShowConfig_Click();
     void CommandBots_Click();
 
+    // Scene list.
     void ListMain2_Click();
+    void ListMain2_DblClick();
+    void ListMain2_MouseDown(float x, float y);
+    void ListMain2_MouseUp(float x, float y);
+    void AddScene_Click();
+    void EditScene_Click();
+    // Removes scenes or rules, by the control that has the focus.
+    void Remove_Click();
+    void CommandAddScene_Click();
+    void CommandEdit_Click();
+    void CommandDelete_Click();
+    void CommandUp_Click();
+    void CommandDown_Click();
+    void CommandColor_Click(int index);
+
+    // Rule list.
     void ListGlobalRules_Click();
     void TextSearched_Change();
     void SyncSelectedScene();
     void RefreshRuleView();
+    void ListEvents_MouseUp(float x, float y);
+    void ListEvents_Click();
+    void ListEvents_ColumnClick(int column);
+    // Removes the selected rows' rules (Remove with the focus on ListEvents).
+    void RemoveSelectedRules();
+
+    // Prints the rule list of the current subscene.
+    void Print_Click();
 
 protected:
     void closeEvent(QCloseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void buildMenus();
@@ -184,7 +217,14 @@ private:
 
     QList<QComboBox*> m_countCombos;
     QList<QPushButton*> m_dialogButtons;
+    // The order of the column sort; flips on every header click, for the whole run.
+    bool m_sortDescending = false;
 };
+
+class RuntimeError;
+// A run-time failure that no handler traps: shows the run-time's message and
+// ends the process with a non-zero status, running no closing step.
+[[noreturn]] void EndWithRunTimeError(const RuntimeError& error);
 
 // True while the device panel is locked (CommandUnlock was clicked).
 extern bool bPanelLocked;

@@ -19,6 +19,9 @@
 #include "support/Convert.h"
 #include "support/ModuleGUI.h"
 #include "support/RuntimeError.h"
+// The panel's own small dialogs.
+#include "mainwindow/FormComponentsAndPorts.h"
+#include "mainwindow/FormTalpor.h"
 
 // A click in a count's list: the count takes the list index when it differs
 // (always, for MIDI and video capture), and the performance counts as changed.
@@ -135,10 +138,14 @@ void FormInitial::CommandItems_Click()
 
 void FormInitial::CommandTalpor_Click()
 {
+    FormTalpor dialog(this);
+    dialog.exec();
 }
 
 void FormInitial::CommandShowConfig_Click()
 {
+    FormComponentsAndPorts dialog(this);
+    dialog.exec();
 }
 
 void FormInitial::deviceCountActivated(QComboBox* combo, qint16& member, bool always)

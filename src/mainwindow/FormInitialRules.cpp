@@ -153,3 +153,57 @@ void FormInitial::RefreshRuleView()
     }
     refillRuleList();
 }
+
+void FormInitial::ListEvents_MouseUp(float x, float y)
+{
+    fMouseX = x;
+    fMouseY = y;
+}
+
+// The rule of the row under the pointer; none for the trailing empty row or no row.
+void FormInitial::ListEvents_Click()
+{
+    QTreeWidgetItem* row = ListEvents->itemAt(QPoint(int(fMouseX), int(fMouseY)));
+    const int count = ListEvents->topLevelItemCount();
+    if (!row || ListEvents->indexOfTopLevelItem(row) == count - 1)
+        iSelectedRule = -1;
+    else
+        iSelectedRule = static_cast<qint16>(row->text(0).toInt() - 1);
+}
+
+// Sorts the rows by the column clicked; the order flips on every click. The
+// rules keep their order: the next refill brings it back.
+void FormInitial::ListEvents_ColumnClick(int column)
+{
+    const int count = ListEvents->topLevelItemCount();
+    if (count > 0 && ListEvents->topLevelItem(count - 1)->text(0).isEmpty())
+        delete ListEvents->takeTopLevelItem(count - 1);
+    m_sortDescending = !m_sortDescending;
+    const Qt::SortOrder order = m_sortDescending ? Qt::DescendingOrder : Qt::AscendingOrder;
+    if (column != 0) {
+        ListEvents->sortItems(column, order);
+    } else {
+        // Numbers as texts sort badly: padded with zeros to 20 characters while sorting.
+        for (int i = 0; i < ListEvents->topLevelItemCount(); ++i) {
+            QTreeWidgetItem* row = ListEvents->topLevelItem(i);
+            row->setText(0, row->text(0).rightJustified(20, u'0'));
+        }
+        ListEvents->sortItems(0, order);
+        for (int i = 0; i < ListEvents->topLevelItemCount(); ++i) {
+            QTreeWidgetItem* row = ListEvents->topLevelItem(i);
+            row->setText(0, QString::number(row->text(0).toLongLong()));
+        }
+    }
+    if (ListEvents->topLevelItemCount() > 0)
+        ListEvents->scrollToItem(ListEvents->topLevelItem(0));
+    auto* trailing = new QTreeWidgetItem();
+    for (int c = 0; c < ListEvents->columnCount(); ++c)
+        trailing->setText(c, QString());
+    ListEvents->addTopLevelItem(trailing);
+}
+
+// ---------------------------------------------------------------- rule clipboard and ordering
+
+void FormInitial::RemoveSelectedRules()
+{
+}
