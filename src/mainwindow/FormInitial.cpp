@@ -164,7 +164,7 @@ void FormInitial::buildRuleView(QWidget* area)
         b->setStyleSheet(QStringLiteral("background: %1;").arg(QLatin1String(kColors[i])));
         CommandColor << b;
     }
-    CommandBots = named(new QPushButton(QStringLiteral("Bots"), area), QStringLiteral("CommandBots"));
+    CommandBots = named(new QPushButton(QStringLiteral("RukaBots Interaction"), area), QStringLiteral("CommandBots"));
 
     Label5 = named(new QLabel(QStringLiteral("Scene"), area), QStringLiteral("Label5"));
     LabelNumScene = named(new QLabel(area), QStringLiteral("LabelNumScene"));
@@ -182,9 +182,7 @@ void FormInitial::buildRuleView(QWidget* area)
                                  QStringLiteral("Movies Interaction"), QStringLiteral("Arduino Interaction"),
                                  QStringLiteral("OSC Interaction")};
     for (int i = 0; i < filters.size(); ++i) {
-        // Picture buttons: a short word stands for the picture, the hint gives the whole caption.
-        auto* b = named(new QPushButton(filters[i].section(u' ', 0, 0), area), arrayName(QStringLiteral("CommandTargetsFilt"), i));
-        b->setToolTip(filters[i]);
+        auto* b = named(new QPushButton(filters[i], area), arrayName(QStringLiteral("CommandTargetsFilt"), i));
         CommandTargetsFilt << b;
     }
     ListEvents = named(new QTreeWidget(area), QStringLiteral("ListEvents"));
@@ -426,7 +424,7 @@ void FormInitial::layoutControls()
     TextSearched->setGeometry(left2 + 90, 126, 200, 24);
     CommandAdd->setGeometry(left2 + 300, 125, 130, 26);
     for (int i = 0; i < CommandTargetsFilt.size(); ++i)
-        CommandTargetsFilt[i]->setGeometry(w - right - (CommandTargetsFilt.size() - i) * 72, h - belowRules + 16, 70, 26);
+        CommandTargetsFilt[i]->setGeometry(w - right - (CommandTargetsFilt.size() - i) * 132, h - belowRules + 16, 130, 26);
     ListEvents->setGeometry(left2, 156, w - left2 - right, h - 156 - belowRules);
 
     // Device view.
