@@ -413,7 +413,7 @@ void FormInitial::layoutControls()
     CommandEdit->setGeometry(92, scenesBottom + 32, 150, 26);
     CommandDelete->setGeometry(20, scenesBottom + 62, 222, 26);
     CommandShowConfig->setGeometry(left2, h - belowRules + 16, 160, 26);
-    CommandBots->setGeometry(left2 + 170, h - belowRules + 16, 80, 26);
+    CommandBots->setGeometry(left2 + 170, h - belowRules + 16, 160, 26);
 
     Label5->setGeometry(left2, 50, 130, 22);
     LabelNumScene->setGeometry(left2 + 130, 50, 50, 22);
