@@ -59,6 +59,32 @@ private slots:
         QCOMPARE(box.icon, QMessageBox::Warning);
     }
 
+    void theDialogCarriesItsCaptionsAndControls()
+    {
+        QString caption;
+        QStringList labels, copies;
+        bool classes = false;
+        openWith(2, [&](QWidget* d) {
+            caption = d->windowTitle();
+            for (QLabel* label : d->findChildren<QLabel*>())
+                labels << label->text();
+            for (int i = 0; i < 16; ++i)
+                copies << control<QCheckBox>(d, row("CheckCopyCfg", i))->text();
+            classes = d->findChild<QLineEdit*>(QStringLiteral("TextFlashPort")) && d->findChild<QLineEdit*>(QStringLiteral("TextUDPPort"))
+                      && d->findChild<QCheckBox*>(QStringLiteral("CheckUDPEnabled"))
+                      && d->findChild<QLineEdit*>(QStringLiteral("TextBroadcastIP"))
+                      && d->findChild<QLineEdit*>(QStringLiteral("TextPerformanceInfo"))
+                      && d->findChild<QLabel*>(row("LabelN", 15)) && d->findChild<QLineEdit*>(row("TextFlashPlayer", 15));
+            clickOn(d, QStringLiteral("CommandCancel"));
+        });
+        QCOMPARE(caption, QStringLiteral("Flash Configuration"));
+        for (const char* text : {"Flash port", "UDP broadcast enabled", "UDP port", "Broadcast IP", "Performance info",
+                                 "Path for Flash Players"})
+            QVERIFY2(labels.contains(QString::fromLatin1(text)), text);
+        QCOMPARE(copies, QStringList(16, QStringLiteral("Copy movieplayer.cfg")));
+        QVERIFY(classes);
+    }
+
     void theDialogShowsTheRecordForThePlayersInUse()
     {
         gMainConfig.m_iFlashUDPPort = 9991;

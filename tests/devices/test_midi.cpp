@@ -92,10 +92,13 @@ private slots:
         QStringList texts;
         bool out0 = false, in1 = false;
         QString caption, frame;
+        QStringList heads;
         QString error;
         QVERIFY2(s.click("CommandPorts", {[&](QWidget* d) {
                      caption = d->windowTitle();
                      frame = control<QGroupBox>(d, QStringLiteral("FramePorts"))->title();
+                     for (QLabel* label : d->findChildren<QLabel*>())
+                         heads << label->text();
                      for (int i = 0; i < 8; ++i)
                          visible << shown(d, row("TextPortNumber", i));
                      texts << textOf(d, row("TextPortNumber", 0)) << textOf(d, row("TextPortNumber", 1))
@@ -109,6 +112,8 @@ private slots:
                  qPrintable(error));
         QCOMPARE(caption, QStringLiteral("Performance Ports Configuration"));
         QCOMPARE(frame, QStringLiteral("Generic MIDI Ports"));
+        for (const char* head : {"Label:", "Port:", "IN", "OUT", "Generic Port 1:", "Generic Port 8:"})
+            QVERIFY2(heads.contains(QString::fromLatin1(head)), head);
         QCOMPARE(visible, (QList<bool>{true, true, false, false, false, false, false, false}));
         QCOMPARE(texts, (QStringList{"", "4", "Keys", "Generic Port 2:"}));
         QVERIFY(out0);

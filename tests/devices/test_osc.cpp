@@ -31,6 +31,36 @@ private slots:
         QCOMPARE(box.icon, QMessageBox::Warning);
     }
 
+    void theDialogCarriesItsCaptionAndControls()
+    {
+        s.pickCount("ComboNOSCs", 1);
+        QString caption, ok, cancel;
+        bool classes = false;
+        QString error;
+        QVERIFY2(s.click("CommandOSC", {[&](QWidget* d) {
+                     caption = d->windowTitle();
+                     ok = control<QPushButton>(d, QStringLiteral("CommandOK"))->text();
+                     cancel = control<QPushButton>(d, QStringLiteral("CommandCancel"))->text();
+                     classes = true;
+                     for (int i = 0; i < 16; ++i) {
+                         auto* frame = d->findChild<QGroupBox*>(row("FrameOpt", i));
+                         classes = classes && d->findChild<QLabel*>(row("Label", i))
+                                   && d->findChild<QLineEdit*>(row("TextLabel", i))
+                                   && d->findChild<QLineEdit*>(row("TextIP", i))
+                                   && d->findChild<QLineEdit*>(row("TextPort", i)) && frame
+                                   && frame->findChild<QRadioButton*>(row("optIn", i))
+                                   && frame->findChild<QRadioButton*>(row("optOut", i));
+                     }
+                     clickOn(d, QStringLiteral("CommandCancel"));
+                 }},
+                 &error),
+                 qPrintable(error));
+        QCOMPARE(caption, QStringLiteral("OSC Configuration"));
+        QCOMPARE(ok, QStringLiteral("OK"));
+        QCOMPARE(cancel, QStringLiteral("Cancel"));
+        QVERIFY(classes);
+    }
+
     void theRowsInUseShowTheRecord()
     {
         gMainConfig.m_iOSCPortInOut(1) = 1;
