@@ -240,6 +240,7 @@ private slots:
                          &error),
                  qPrintable(error));
         QCOMPARE(box.text, QStringLiteral("You have to enter a valid port number for MIDI port 2"));
+        QCOMPARE(box.title, QStringLiteral("QEL Setup"));
         QCOMPARE(box.icon, QMessageBox::Warning);
         QVERIFY(gDirty);
         QCOMPARE(gMainConfig.m_strMIDIPortLabel(1), QString());
@@ -264,6 +265,8 @@ private slots:
                          &error),
                  qPrintable(error));
         QCOMPARE(first.text, QStringLiteral("You have to enter a label for MIDI port 1"));
+        QCOMPARE(first.title, QStringLiteral("QEL Setup"));
+        QCOMPARE(first.icon, QMessageBox::Warning);
         QCOMPARE(second.text, QStringLiteral("You have to enter a valid port number for MIDI port 1"));
         QCOMPARE(third.text, QStringLiteral("You have to enter a valid port number for MIDI port 1"));
     }

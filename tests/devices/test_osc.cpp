@@ -199,6 +199,8 @@ private slots:
                          &error),
                  qPrintable(error));
         QCOMPARE(box.text, QStringLiteral("You have to enter an IP Address or hostname for OSC connection 1"));
+        QCOMPARE(box.title, QStringLiteral("QEL Setup"));
+        QCOMPARE(box.icon, QMessageBox::NoIcon);
     }
 
     void anEmptyLabelStopsTheDialog()
@@ -216,6 +218,8 @@ private slots:
                          &error),
                  qPrintable(error));
         QCOMPARE(box.text, QStringLiteral("You have to enter a label for OSC connection 2"));
+        QCOMPARE(box.title, QStringLiteral("QEL Setup"));
+        QCOMPARE(box.icon, QMessageBox::NoIcon);
     }
 
     void withSixteenConnectionsNoLabelIsReset()

@@ -257,6 +257,8 @@ private slots:
             },
             {noteBox(&box)});
         QCOMPARE(box.text, QStringLiteral("Number of Buttons must be between 1 and 128"));
+        QCOMPARE(box.title, QStringLiteral("QEL Setup"));
+        QCOMPARE(box.icon, QMessageBox::Warning);
         QCOMPARE(gTotemAxes(0), qint16(3));
         QCOMPARE(gTotemButtons(0), qint16(5));
         QCOMPARE(gTotemAxes(1), qint16(2));
