@@ -93,14 +93,18 @@ private slots:
         bool out0 = false, in1 = false;
         QString caption, frame;
         QStringList heads;
+        bool sameAsPort = true;   // each row's controls on show together
         QString error;
         QVERIFY2(s.click("CommandPorts", {[&](QWidget* d) {
                      caption = d->windowTitle();
                      frame = control<QGroupBox>(d, QStringLiteral("FramePorts"))->title();
                      for (QLabel* label : d->findChildren<QLabel*>())
                          heads << label->text();
-                     for (int i = 0; i < 8; ++i)
+                     for (int i = 0; i < 8; ++i) {
                          visible << shown(d, row("TextPortNumber", i));
+                         for (const char* name : {"Label4", "TextMIDIPortLabel", "optIn", "optOut"})
+                             sameAsPort = sameAsPort && shown(d, row(name, i)) == visible.last();
+                     }
                      texts << textOf(d, row("TextPortNumber", 0)) << textOf(d, row("TextPortNumber", 1))
                            << textOf(d, row("TextMIDIPortLabel", 1))
                            << control<QLabel>(d, row("Label4", 1))->text();
@@ -115,6 +119,7 @@ private slots:
         for (const char* head : {"Label:", "Port:", "IN", "OUT", "Generic Port 1:", "Generic Port 8:"})
             QVERIFY2(heads.contains(QString::fromLatin1(head)), head);
         QCOMPARE(visible, (QList<bool>{true, true, false, false, false, false, false, false}));
+        QVERIFY(sameAsPort);
         QCOMPARE(texts, (QStringList{"", "4", "Keys", "Generic Port 2:"}));
         QVERIFY(out0);
         QVERIFY(in1);
