@@ -1,6 +1,7 @@
 // The digital IO cards dialog, offered from the Setup menu of the main window.
 #include <QMenu>
 #include "DeviceDialogSession.h"
+#include "devices/FormDigitalIOSetup.h"
 #include "model/CMainConfig.h"
 #include "model/ModuleGlobals.h"
 
@@ -148,6 +149,22 @@ private slots:
         QCOMPARE(gDigitalIOCardID(0), 5);
         QCOMPARE(gDigitalIONIn(0), 16);
         QCOMPARE(gDigitalIONOut(1), 4);
+    }
+
+    void loadClearsTheUpdateFlagAndOkSetsIt()
+    {
+        {
+            FormDigitalIOSetup dialog(s.form.get());
+            const UpdateFlag ok = updateFlagAround(dialog, [](QWidget* d) { clickOn(d, QStringLiteral("CommandOK")); });
+            QVERIFY2(ok.error.isEmpty(), qPrintable(ok.error));
+            QVERIFY(!ok.atLoad);
+            QVERIFY(ok.atClose);
+        }
+        FormDigitalIOSetup dialog(s.form.get());
+        const UpdateFlag cancel = updateFlagAround(dialog, [](QWidget* d) { clickOn(d, QStringLiteral("CommandCancel")); });
+        QVERIFY2(cancel.error.isEmpty(), qPrintable(cancel.error));
+        QVERIFY(!cancel.atLoad);
+        QVERIFY(!cancel.atClose);
     }
 
     void cancelChangesNothing()

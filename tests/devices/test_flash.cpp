@@ -1,5 +1,6 @@
 // The Flash players dialog as an operator uses it from the device panel.
 #include "DeviceDialogSession.h"
+#include "devices/FormFlashConfig.h"
 #include "model/CMainConfig.h"
 #include "model/ModuleGlobals.h"
 
@@ -193,6 +194,24 @@ private slots:
         QCOMPARE(gMainConfig.m_iFlashPort, qint16(2000));
         QCOMPARE(gMainConfig.m_strFlashFolderPath(0), QStringLiteral("\\\\stage\\flash\\"));
         QCOMPARE(gMainConfig.m_strFlashFolderPath(1), QStringLiteral("e:\\show\\"));
+    }
+
+    void loadClearsTheUpdateFlagAndOkSetsIt()
+    {
+        {
+            FormFlashConfig dialog(s.form.get());
+            dialog.iNumFlash = 1;
+            const UpdateFlag ok = updateFlagAround(dialog, [](QWidget* d) { clickOn(d, QStringLiteral("CommandOK")); });
+            QVERIFY2(ok.error.isEmpty(), qPrintable(ok.error));
+            QVERIFY(!ok.atLoad);
+            QVERIFY(ok.atClose);
+        }
+        FormFlashConfig dialog(s.form.get());
+        dialog.iNumFlash = 1;
+        const UpdateFlag cancel = updateFlagAround(dialog, [](QWidget* d) { clickOn(d, QStringLiteral("CommandCancel")); });
+        QVERIFY2(cancel.error.isEmpty(), qPrintable(cancel.error));
+        QVERIFY(!cancel.atLoad);
+        QVERIFY(!cancel.atClose);
     }
 
     void cancelChangesNothing()

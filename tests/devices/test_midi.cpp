@@ -1,5 +1,6 @@
 // The MIDI ports dialog as an operator uses it from the device panel.
 #include "DeviceDialogSession.h"
+#include "devices/FormMIDIPorts.h"
 #include "model/CMainConfig.h"
 #include "model/CScene.h"
 #include "model/ModuleGlobals.h"
@@ -274,6 +275,24 @@ private slots:
         QCOMPARE(first.icon, QMessageBox::Warning);
         QCOMPARE(second.text, QStringLiteral("You have to enter a valid port number for MIDI port 1"));
         QCOMPARE(third.text, QStringLiteral("You have to enter a valid port number for MIDI port 1"));
+    }
+
+    void loadClearsTheUpdateFlagAndOkSetsIt()
+    {
+        {
+            FormMIDIPorts dialog(s.form.get());
+            dialog.iNumMIDIs = 1;
+            const UpdateFlag ok = updateFlagAround(dialog, [](QWidget* d) { clickOn(d, QStringLiteral("CommandOK")); });
+            QVERIFY2(ok.error.isEmpty(), qPrintable(ok.error));
+            QVERIFY(!ok.atLoad);
+            QVERIFY(ok.atClose);
+        }
+        FormMIDIPorts dialog(s.form.get());
+        dialog.iNumMIDIs = 1;
+        const UpdateFlag cancel = updateFlagAround(dialog, [](QWidget* d) { clickOn(d, QStringLiteral("CommandCancel")); });
+        QVERIFY2(cancel.error.isEmpty(), qPrintable(cancel.error));
+        QVERIFY(!cancel.atLoad);
+        QVERIFY(!cancel.atClose);
     }
 
     void cancelChangesNothing()

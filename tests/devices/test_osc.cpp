@@ -1,5 +1,6 @@
 // The OSC connections dialog as an operator uses it from the device panel.
 #include "DeviceDialogSession.h"
+#include "devices/FormOSCConfig.h"
 #include "model/CMainConfig.h"
 #include "model/ModuleGlobals.h"
 
@@ -279,6 +280,27 @@ private slots:
         // The rows given up were not reached, and the dialog was never accepted.
         QCOMPARE(c.m_strOSCPortLabel(5), QStringLiteral("OSC 6"));
         QVERIFY(!gDirty);
+    }
+
+    void loadClearsTheUpdateFlagAndOkSetsIt()
+    {
+        {
+            FormOSCConfig dialog(s.form.get());
+            dialog.iNumOSCs = 1;
+            const UpdateFlag ok = updateFlagAround(dialog, [](QWidget* d) {
+                typeIn(d, row("TextPort", 0), QStringLiteral("9000"));
+                clickOn(d, QStringLiteral("CommandOK"));
+            });
+            QVERIFY2(ok.error.isEmpty(), qPrintable(ok.error));
+            QVERIFY(!ok.atLoad);
+            QVERIFY(ok.atClose);
+        }
+        FormOSCConfig dialog(s.form.get());
+        dialog.iNumOSCs = 1;
+        const UpdateFlag cancel = updateFlagAround(dialog, [](QWidget* d) { clickOn(d, QStringLiteral("CommandCancel")); });
+        QVERIFY2(cancel.error.isEmpty(), qPrintable(cancel.error));
+        QVERIFY(!cancel.atLoad);
+        QVERIFY(!cancel.atClose);
     }
 
     void cancelChangesNothing()

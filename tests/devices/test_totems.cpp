@@ -1,6 +1,7 @@
 // The joysticks dialog as an operator uses it from the device panel, and what a
 // joystick that gains axes does to the rules of the performance.
 #include "DeviceDialogSession.h"
+#include "devices/FormTotemsConfig.h"
 #include "files/CBotEvent.h"
 #include "model/CMainConfig.h"
 #include "model/CScene.h"
@@ -357,6 +358,24 @@ private slots:
         QCOMPARE(gTotemButtons(1), qint16(128));
         QCOMPARE(gMainConfig.m_iTotemDevice(0), qint16(2));
         QCOMPARE(gMainConfig.m_iTotemDevice(1), qint16(1));
+    }
+
+    void loadClearsTheUpdateFlagAndOkSetsIt()
+    {
+        {
+            FormTotemsConfig dialog(s.form.get());
+            dialog.iNumTotems = 1;
+            const UpdateFlag ok = updateFlagAround(dialog, [](QWidget* d) { clickOn(d, QStringLiteral("CommandOK")); });
+            QVERIFY2(ok.error.isEmpty(), qPrintable(ok.error));
+            QVERIFY(!ok.atLoad);
+            QVERIFY(ok.atClose);
+        }
+        FormTotemsConfig dialog(s.form.get());
+        dialog.iNumTotems = 1;
+        const UpdateFlag cancel = updateFlagAround(dialog, [](QWidget* d) { clickOn(d, QStringLiteral("CommandCancel")); });
+        QVERIFY2(cancel.error.isEmpty(), qPrintable(cancel.error));
+        QVERIFY(!cancel.atLoad);
+        QVERIFY(!cancel.atClose);
     }
 
     void cancelChangesNothing()
