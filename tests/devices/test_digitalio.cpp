@@ -48,11 +48,26 @@ private slots:
         QVERIFY(entry->isEnabled());
         QVERIFY(s.form->Setup->actions().contains(entry));
         QString caption, label;
+        QStringList entries, captions, buttons;
         openWith([&](QWidget* d) {
             caption = d->windowTitle();
             label = control<QLabel>(d, QStringLiteral("LabelNCards"))->text();
+            auto* combo = control<QComboBox>(d, QStringLiteral("ComboNCards"));
+            for (int i = 0; i < combo->count(); ++i)
+                entries << combo->itemText(i);
+            for (int i = 0; i < 4; ++i)
+                captions << control<QLabel>(d, row("LabelCard", i))->text() << control<QLabel>(d, row("LabelID", i))->text()
+                         << control<QLabel>(d, row("LabelNIn", i))->text() << control<QLabel>(d, row("LabelNOut", i))->text();
+            buttons << control<QPushButton>(d, QStringLiteral("CommandOK"))->text()
+                    << control<QPushButton>(d, QStringLiteral("CommandCancel"))->text();
             clickOn(d, QStringLiteral("CommandCancel"));
         });
+        QCOMPARE(entries, (QStringList{"1", "2", "3", "4"}));
+        QStringList expected;
+        for (int i = 1; i <= 4; ++i)
+            expected << QStringLiteral("Card %1:").arg(i) << "Card ID:" << "Number of Inputs:" << "Number of Outputs:";
+        QCOMPARE(captions, expected);
+        QCOMPARE(buttons, (QStringList{"OK", "Cancel"}));
         QCOMPARE(caption, QStringLiteral("Digital IO Setup"));
         QCOMPARE(label, QStringLiteral("Number of Digital IO Cards:"));
     }
