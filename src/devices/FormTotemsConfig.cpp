@@ -115,10 +115,11 @@ void FormTotemsConfig::Form_Load()
     gMainConfig.m_bUpdate = false;
     for (int i = 0; i < 4; ++i)
         TextTotem[i]->setText(QString::number(gMainConfig.m_iTotemDevice(i)));
+    // The remap boxes stay on show for all four joysticks: OK takes them all.
     for (int i = 0; i < 4; ++i) {
         const bool inUse = i < iNumTotems;
-        for (QWidget* w : {static_cast<QWidget*>(m_labels[i]), static_cast<QWidget*>(TextTotem[i]),
-                           static_cast<QWidget*>(m_axes[i]), static_cast<QWidget*>(m_buttons[i])})
+        for (QWidget* w : {static_cast<QWidget*>(m_labels[i]), static_cast<QWidget*>(m_axes[i]),
+                           static_cast<QWidget*>(m_buttons[i])})
             w->setVisible(inUse);
         if (inUse) {
             m_axes[i]->setText(QString::number(gTotemAxes(i)));

@@ -13,6 +13,7 @@
 #include <QRadioButton>
 #include <QTemporaryDir>
 #include "mainwindow/MainWindowSession.h"
+#include "model/CMainConfig.h"
 #include "support/DialogDriver.h"
 #include "support/TestData.h"
 
@@ -96,6 +97,30 @@ public:
         open(native(dir.filePath(name)));
     }
 };
+
+// The hand-shake of a device dialog with its opener, the dialog opened alone:
+// m_bUpdate set beforehand, `act` run on the dialog. Gives m_bUpdate as the
+// dialog showed it after loading, and as it stood when the dialog closed.
+struct UpdateFlag {
+    bool atLoad = true;
+    bool atClose = false;
+    QString error;
+};
+inline UpdateFlag updateFlagAround(QDialog& dialog, const std::function<void(QWidget*)>& act)
+{
+    UpdateFlag flag;
+    gMainConfig.m_bUpdate = true;
+    DialogDriver driver;
+    driver.next([&](QWidget* d) {
+        flag.atLoad = gMainConfig.m_bUpdate;
+        act(d);
+    });
+    dialog.exec();
+    driver.finished();
+    flag.error = driver.error();
+    flag.atClose = gMainConfig.m_bUpdate;
+    return flag;
+}
 
 // --- acting on a dialog --------------------------------------------------------
 

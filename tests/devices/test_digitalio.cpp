@@ -1,6 +1,7 @@
 // The digital IO cards dialog, offered from the Setup menu of the main window.
 #include <QMenu>
 #include "DeviceDialogSession.h"
+#include "devices/FormDigitalIOSetup.h"
 #include "model/CMainConfig.h"
 #include "model/ModuleGlobals.h"
 
@@ -17,12 +18,20 @@ private:
         s.menu("DigitalIO")->trigger();
         QVERIFY2(driver.finished(), qPrintable(driver.error()));
     }
+    // Whether each card's row is on show: its three boxes and four labels all
+    // shown, or all hidden. A row half on show is listed twice, so that it
+    // matches no expected list.
     static QList<bool> rowsShown(QWidget* d)
     {
         QList<bool> visible;
-        for (int i = 0; i < 4; ++i)
-            visible << (shown(d, row("TextID", i)) && shown(d, row("TextNIn", i)) && shown(d, row("TextNOut", i))
-                        && shown(d, row("LabelCard", i)) && shown(d, row("LabelID", i)));
+        for (int i = 0; i < 4; ++i) {
+            int on = 0;
+            for (const char* name : {"TextID", "TextNIn", "TextNOut", "LabelCard", "LabelID", "LabelNIn", "LabelNOut"})
+                on += shown(d, row(name, i)) ? 1 : 0;
+            visible << (on == 7);
+            if (on != 0 && on != 7)
+                visible << false;
+        }
         return visible;
     }
 
@@ -39,11 +48,26 @@ private slots:
         QVERIFY(entry->isEnabled());
         QVERIFY(s.form->Setup->actions().contains(entry));
         QString caption, label;
+        QStringList entries, captions, buttons;
         openWith([&](QWidget* d) {
             caption = d->windowTitle();
             label = control<QLabel>(d, QStringLiteral("LabelNCards"))->text();
+            auto* combo = control<QComboBox>(d, QStringLiteral("ComboNCards"));
+            for (int i = 0; i < combo->count(); ++i)
+                entries << combo->itemText(i);
+            for (int i = 0; i < 4; ++i)
+                captions << control<QLabel>(d, row("LabelCard", i))->text() << control<QLabel>(d, row("LabelID", i))->text()
+                         << control<QLabel>(d, row("LabelNIn", i))->text() << control<QLabel>(d, row("LabelNOut", i))->text();
+            buttons << control<QPushButton>(d, QStringLiteral("CommandOK"))->text()
+                    << control<QPushButton>(d, QStringLiteral("CommandCancel"))->text();
             clickOn(d, QStringLiteral("CommandCancel"));
         });
+        QCOMPARE(entries, (QStringList{"1", "2", "3", "4"}));
+        QStringList expected;
+        for (int i = 1; i <= 4; ++i)
+            expected << QStringLiteral("Card %1:").arg(i) << "Card ID:" << "Number of Inputs:" << "Number of Outputs:";
+        QCOMPARE(captions, expected);
+        QCOMPARE(buttons, (QStringList{"OK", "Cancel"}));
         QCOMPARE(caption, QStringLiteral("Digital IO Setup"));
         QCOMPARE(label, QStringLiteral("Number of Digital IO Cards:"));
     }
@@ -140,6 +164,22 @@ private slots:
         QCOMPARE(gDigitalIOCardID(0), 5);
         QCOMPARE(gDigitalIONIn(0), 16);
         QCOMPARE(gDigitalIONOut(1), 4);
+    }
+
+    void loadClearsTheUpdateFlagAndOkSetsIt()
+    {
+        {
+            FormDigitalIOSetup dialog(s.form.get());
+            const UpdateFlag ok = updateFlagAround(dialog, [](QWidget* d) { clickOn(d, QStringLiteral("CommandOK")); });
+            QVERIFY2(ok.error.isEmpty(), qPrintable(ok.error));
+            QVERIFY(!ok.atLoad);
+            QVERIFY(ok.atClose);
+        }
+        FormDigitalIOSetup dialog(s.form.get());
+        const UpdateFlag cancel = updateFlagAround(dialog, [](QWidget* d) { clickOn(d, QStringLiteral("CommandCancel")); });
+        QVERIFY2(cancel.error.isEmpty(), qPrintable(cancel.error));
+        QVERIFY(!cancel.atLoad);
+        QVERIFY(!cancel.atClose);
     }
 
     void cancelChangesNothing()

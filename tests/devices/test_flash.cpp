@@ -1,5 +1,6 @@
 // The Flash players dialog as an operator uses it from the device panel.
 #include "DeviceDialogSession.h"
+#include "devices/FormFlashConfig.h"
 #include "model/CMainConfig.h"
 #include "model/ModuleGlobals.h"
 
@@ -57,6 +58,32 @@ private slots:
         QCOMPARE(box.text, QStringLiteral("No Flash players!"));
         QCOMPARE(box.title, QStringLiteral("QEL Setup"));
         QCOMPARE(box.icon, QMessageBox::Warning);
+    }
+
+    void theDialogCarriesItsCaptionsAndControls()
+    {
+        QString caption;
+        QStringList labels, copies;
+        bool classes = false;
+        openWith(2, [&](QWidget* d) {
+            caption = d->windowTitle();
+            for (QLabel* label : d->findChildren<QLabel*>())
+                labels << label->text();
+            for (int i = 0; i < 16; ++i)
+                copies << control<QCheckBox>(d, row("CheckCopyCfg", i))->text();
+            classes = d->findChild<QLineEdit*>(QStringLiteral("TextFlashPort")) && d->findChild<QLineEdit*>(QStringLiteral("TextUDPPort"))
+                      && d->findChild<QCheckBox*>(QStringLiteral("CheckUDPEnabled"))
+                      && d->findChild<QLineEdit*>(QStringLiteral("TextBroadcastIP"))
+                      && d->findChild<QLineEdit*>(QStringLiteral("TextPerformanceInfo"))
+                      && d->findChild<QLabel*>(row("LabelN", 15)) && d->findChild<QLineEdit*>(row("TextFlashPlayer", 15));
+            clickOn(d, QStringLiteral("CommandCancel"));
+        });
+        QCOMPARE(caption, QStringLiteral("Flash Configuration"));
+        for (const char* text : {"Flash port", "UDP broadcast enabled", "UDP port", "Broadcast IP", "Performance info",
+                                 "Path for Flash Players"})
+            QVERIFY2(labels.contains(QString::fromLatin1(text)), text);
+        QCOMPARE(copies, QStringList(16, QStringLiteral("Copy movieplayer.cfg")));
+        QVERIFY(classes);
     }
 
     void theDialogShowsTheRecordForThePlayersInUse()
@@ -167,6 +194,24 @@ private slots:
         QCOMPARE(gMainConfig.m_iFlashPort, qint16(2000));
         QCOMPARE(gMainConfig.m_strFlashFolderPath(0), QStringLiteral("\\\\stage\\flash\\"));
         QCOMPARE(gMainConfig.m_strFlashFolderPath(1), QStringLiteral("e:\\show\\"));
+    }
+
+    void loadClearsTheUpdateFlagAndOkSetsIt()
+    {
+        {
+            FormFlashConfig dialog(s.form.get());
+            dialog.iNumFlash = 1;
+            const UpdateFlag ok = updateFlagAround(dialog, [](QWidget* d) { clickOn(d, QStringLiteral("CommandOK")); });
+            QVERIFY2(ok.error.isEmpty(), qPrintable(ok.error));
+            QVERIFY(!ok.atLoad);
+            QVERIFY(ok.atClose);
+        }
+        FormFlashConfig dialog(s.form.get());
+        dialog.iNumFlash = 1;
+        const UpdateFlag cancel = updateFlagAround(dialog, [](QWidget* d) { clickOn(d, QStringLiteral("CommandCancel")); });
+        QVERIFY2(cancel.error.isEmpty(), qPrintable(cancel.error));
+        QVERIFY(!cancel.atLoad);
+        QVERIFY(!cancel.atClose);
     }
 
     void cancelChangesNothing()

@@ -1,5 +1,6 @@
 // The MIDI ports dialog as an operator uses it from the device panel.
 #include "DeviceDialogSession.h"
+#include "devices/FormMIDIPorts.h"
 #include "model/CMainConfig.h"
 #include "model/CScene.h"
 #include "model/ModuleGlobals.h"
@@ -92,12 +93,19 @@ private slots:
         QStringList texts;
         bool out0 = false, in1 = false;
         QString caption, frame;
+        QStringList heads;
+        bool sameAsPort = true;   // each row's controls on show together
         QString error;
         QVERIFY2(s.click("CommandPorts", {[&](QWidget* d) {
                      caption = d->windowTitle();
                      frame = control<QGroupBox>(d, QStringLiteral("FramePorts"))->title();
-                     for (int i = 0; i < 8; ++i)
+                     for (QLabel* label : d->findChildren<QLabel*>())
+                         heads << label->text();
+                     for (int i = 0; i < 8; ++i) {
                          visible << shown(d, row("TextPortNumber", i));
+                         for (const char* name : {"Label4", "TextMIDIPortLabel", "optIn", "optOut"})
+                             sameAsPort = sameAsPort && shown(d, row(name, i)) == visible.last();
+                     }
                      texts << textOf(d, row("TextPortNumber", 0)) << textOf(d, row("TextPortNumber", 1))
                            << textOf(d, row("TextMIDIPortLabel", 1))
                            << control<QLabel>(d, row("Label4", 1))->text();
@@ -109,7 +117,10 @@ private slots:
                  qPrintable(error));
         QCOMPARE(caption, QStringLiteral("Performance Ports Configuration"));
         QCOMPARE(frame, QStringLiteral("Generic MIDI Ports"));
+        for (const char* head : {"Label:", "Port:", "IN", "OUT", "Generic Port 1:", "Generic Port 8:"})
+            QVERIFY2(heads.contains(QString::fromLatin1(head)), head);
         QCOMPARE(visible, (QList<bool>{true, true, false, false, false, false, false, false}));
+        QVERIFY(sameAsPort);
         QCOMPARE(texts, (QStringList{"", "4", "Keys", "Generic Port 2:"}));
         QVERIFY(out0);
         QVERIFY(in1);
@@ -235,6 +246,7 @@ private slots:
                          &error),
                  qPrintable(error));
         QCOMPARE(box.text, QStringLiteral("You have to enter a valid port number for MIDI port 2"));
+        QCOMPARE(box.title, QStringLiteral("QEL Setup"));
         QCOMPARE(box.icon, QMessageBox::Warning);
         QVERIFY(gDirty);
         QCOMPARE(gMainConfig.m_strMIDIPortLabel(1), QString());
@@ -259,8 +271,28 @@ private slots:
                          &error),
                  qPrintable(error));
         QCOMPARE(first.text, QStringLiteral("You have to enter a label for MIDI port 1"));
+        QCOMPARE(first.title, QStringLiteral("QEL Setup"));
+        QCOMPARE(first.icon, QMessageBox::Warning);
         QCOMPARE(second.text, QStringLiteral("You have to enter a valid port number for MIDI port 1"));
         QCOMPARE(third.text, QStringLiteral("You have to enter a valid port number for MIDI port 1"));
+    }
+
+    void loadClearsTheUpdateFlagAndOkSetsIt()
+    {
+        {
+            FormMIDIPorts dialog(s.form.get());
+            dialog.iNumMIDIs = 1;
+            const UpdateFlag ok = updateFlagAround(dialog, [](QWidget* d) { clickOn(d, QStringLiteral("CommandOK")); });
+            QVERIFY2(ok.error.isEmpty(), qPrintable(ok.error));
+            QVERIFY(!ok.atLoad);
+            QVERIFY(ok.atClose);
+        }
+        FormMIDIPorts dialog(s.form.get());
+        dialog.iNumMIDIs = 1;
+        const UpdateFlag cancel = updateFlagAround(dialog, [](QWidget* d) { clickOn(d, QStringLiteral("CommandCancel")); });
+        QVERIFY2(cancel.error.isEmpty(), qPrintable(cancel.error));
+        QVERIFY(!cancel.atLoad);
+        QVERIFY(!cancel.atClose);
     }
 
     void cancelChangesNothing()

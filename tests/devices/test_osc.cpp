@@ -1,5 +1,6 @@
 // The OSC connections dialog as an operator uses it from the device panel.
 #include "DeviceDialogSession.h"
+#include "devices/FormOSCConfig.h"
 #include "model/CMainConfig.h"
 #include "model/ModuleGlobals.h"
 
@@ -29,6 +30,36 @@ private slots:
         QCOMPARE(box.text, QStringLiteral("No OSC connections!"));
         QCOMPARE(box.title, QStringLiteral("QEL Setup"));
         QCOMPARE(box.icon, QMessageBox::Warning);
+    }
+
+    void theDialogCarriesItsCaptionAndControls()
+    {
+        s.pickCount("ComboNOSCs", 1);
+        QString caption, ok, cancel;
+        bool classes = false;
+        QString error;
+        QVERIFY2(s.click("CommandOSC", {[&](QWidget* d) {
+                     caption = d->windowTitle();
+                     ok = control<QPushButton>(d, QStringLiteral("CommandOK"))->text();
+                     cancel = control<QPushButton>(d, QStringLiteral("CommandCancel"))->text();
+                     classes = true;
+                     for (int i = 0; i < 16; ++i) {
+                         auto* frame = d->findChild<QGroupBox*>(row("FrameOpt", i));
+                         classes = classes && d->findChild<QLabel*>(row("Label", i))
+                                   && d->findChild<QLineEdit*>(row("TextLabel", i))
+                                   && d->findChild<QLineEdit*>(row("TextIP", i))
+                                   && d->findChild<QLineEdit*>(row("TextPort", i)) && frame
+                                   && frame->findChild<QRadioButton*>(row("optIn", i))
+                                   && frame->findChild<QRadioButton*>(row("optOut", i));
+                     }
+                     clickOn(d, QStringLiteral("CommandCancel"));
+                 }},
+                 &error),
+                 qPrintable(error));
+        QCOMPARE(caption, QStringLiteral("OSC Configuration"));
+        QCOMPARE(ok, QStringLiteral("OK"));
+        QCOMPARE(cancel, QStringLiteral("Cancel"));
+        QVERIFY(classes);
     }
 
     void theRowsInUseShowTheRecord()
@@ -169,6 +200,8 @@ private slots:
                          &error),
                  qPrintable(error));
         QCOMPARE(box.text, QStringLiteral("You have to enter an IP Address or hostname for OSC connection 1"));
+        QCOMPARE(box.title, QStringLiteral("QEL Setup"));
+        QCOMPARE(box.icon, QMessageBox::NoIcon);
     }
 
     void anEmptyLabelStopsTheDialog()
@@ -186,6 +219,8 @@ private slots:
                          &error),
                  qPrintable(error));
         QCOMPARE(box.text, QStringLiteral("You have to enter a label for OSC connection 2"));
+        QCOMPARE(box.title, QStringLiteral("QEL Setup"));
+        QCOMPARE(box.icon, QMessageBox::NoIcon);
     }
 
     void withSixteenConnectionsNoLabelIsReset()
@@ -245,6 +280,27 @@ private slots:
         // The rows given up were not reached, and the dialog was never accepted.
         QCOMPARE(c.m_strOSCPortLabel(5), QStringLiteral("OSC 6"));
         QVERIFY(!gDirty);
+    }
+
+    void loadClearsTheUpdateFlagAndOkSetsIt()
+    {
+        {
+            FormOSCConfig dialog(s.form.get());
+            dialog.iNumOSCs = 1;
+            const UpdateFlag ok = updateFlagAround(dialog, [](QWidget* d) {
+                typeIn(d, row("TextPort", 0), QStringLiteral("9000"));
+                clickOn(d, QStringLiteral("CommandOK"));
+            });
+            QVERIFY2(ok.error.isEmpty(), qPrintable(ok.error));
+            QVERIFY(!ok.atLoad);
+            QVERIFY(ok.atClose);
+        }
+        FormOSCConfig dialog(s.form.get());
+        dialog.iNumOSCs = 1;
+        const UpdateFlag cancel = updateFlagAround(dialog, [](QWidget* d) { clickOn(d, QStringLiteral("CommandCancel")); });
+        QVERIFY2(cancel.error.isEmpty(), qPrintable(cancel.error));
+        QVERIFY(!cancel.atLoad);
+        QVERIFY(!cancel.atClose);
     }
 
     void cancelChangesNothing()

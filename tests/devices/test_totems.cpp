@@ -1,6 +1,7 @@
 // The joysticks dialog as an operator uses it from the device panel, and what a
 // joystick that gains axes does to the rules of the performance.
 #include "DeviceDialogSession.h"
+#include "devices/FormTotemsConfig.h"
 #include "files/CBotEvent.h"
 #include "model/CMainConfig.h"
 #include "model/CScene.h"
@@ -123,28 +124,58 @@ private slots:
 
     void withNoJoysticksTheDialogOpensWithNoRows()
     {
-        QList<bool> visible;
+        QList<bool> visible, remapShown;
+        QStringList remaps, heads;
         QString caption;
+        gMainConfig.m_iTotemDevice(3) = 6;
         openWith(0, [&](QWidget* d) {
             caption = d->windowTitle();
-            for (int i = 1; i <= 4; ++i)
-                visible << shown(d, QStringLiteral("Label%1").arg(i)) << shown(d, row("TextTotem", i - 1))
-                        << shown(d, QStringLiteral("TextAxis%1").arg(i)) << shown(d, QStringLiteral("TextButton%1").arg(i));
+            for (QLabel* label : d->findChildren<QLabel*>())
+                heads << label->text();
+            for (int i = 1; i <= 4; ++i) {
+                visible << shown(d, QStringLiteral("Label%1").arg(i)) << shown(d, QStringLiteral("TextAxis%1").arg(i))
+                        << shown(d, QStringLiteral("TextButton%1").arg(i));
+                remapShown << shown(d, row("TextTotem", i - 1));
+                remaps << textOf(d, row("TextTotem", i - 1));
+            }
             clickOn(d, QStringLiteral("CommandCancel"));
         });
         QCOMPARE(caption, QStringLiteral("Joysticks Configuration"));
-        QCOMPARE(visible, QList<bool>(16, false));
+        // The axes head admits 1, which the check on OK refuses.
+        for (const char* head : {"Joystick remap", "No. of Axis (1 - 6)", "No. of Buttons (1 - 128)", "Joystick 4:"})
+            QVERIFY2(heads.contains(QString::fromLatin1(head)), head);
+        QCOMPARE(visible, QList<bool>(12, false));
+        // The remap column stands for all four joysticks, filled from the record.
+        QCOMPARE(remapShown, QList<bool>(4, true));
+        QCOMPARE(remaps, (QStringList{"1", "2", "3", "6"}));
     }
 
     void withNoJoysticksOkTakesOnlyTheRemapBoxes()
     {
-        gMainConfig.m_iTotemDevice(2) = 7;
-        openWith(0, [&](QWidget* d) { clickOn(d, QStringLiteral("CommandOK")); });
+        gTotemAxes(0) = 1;   // would stop the dialog, were the axes checked
+        openWith(0, [&](QWidget* d) {
+            typeIn(d, row("TextTotem", 0), QStringLiteral("4"));
+            typeIn(d, row("TextTotem", 3), QStringLiteral("9"));
+            clickOn(d, QStringLiteral("CommandOK"));
+        });
         QVERIFY(gDirty);
-        QCOMPARE(gMainConfig.m_iTotemDevice(0), qint16(1));
-        QCOMPARE(gMainConfig.m_iTotemDevice(2), qint16(7));
-        QCOMPARE(gTotemAxes(0), qint16(2));
+        QCOMPARE(gMainConfig.m_iTotemDevice(0), qint16(4));
+        QCOMPARE(gMainConfig.m_iTotemDevice(2), qint16(3));
+        QCOMPARE(gMainConfig.m_iTotemDevice(3), qint16(9));
+        QCOMPARE(gTotemAxes(0), qint16(1));
         QCOMPARE(gTotemButtons(0), qint16(5));
+    }
+
+    void theRemapBoxesOfJoysticksNotInUseAreTakenToo()
+    {
+        openWith(2, [&](QWidget* d) {
+            typeIn(d, row("TextTotem", 1), QStringLiteral("7"));
+            typeIn(d, row("TextTotem", 2), QStringLiteral("8"));
+            clickOn(d, QStringLiteral("CommandOK"));
+        });
+        QCOMPARE(gMainConfig.m_iTotemDevice(1), qint16(7));
+        QCOMPARE(gMainConfig.m_iTotemDevice(2), qint16(8));
+        QCOMPARE(gMainConfig.m_iTotemDevice(3), qint16(4));
     }
 
     void theRowsInUseShowTheTables()
@@ -227,6 +258,8 @@ private slots:
             },
             {noteBox(&box)});
         QCOMPARE(box.text, QStringLiteral("Number of Buttons must be between 1 and 128"));
+        QCOMPARE(box.title, QStringLiteral("QEL Setup"));
+        QCOMPARE(box.icon, QMessageBox::Warning);
         QCOMPARE(gTotemAxes(0), qint16(3));
         QCOMPARE(gTotemButtons(0), qint16(5));
         QCOMPARE(gTotemAxes(1), qint16(2));
@@ -325,6 +358,24 @@ private slots:
         QCOMPARE(gTotemButtons(1), qint16(128));
         QCOMPARE(gMainConfig.m_iTotemDevice(0), qint16(2));
         QCOMPARE(gMainConfig.m_iTotemDevice(1), qint16(1));
+    }
+
+    void loadClearsTheUpdateFlagAndOkSetsIt()
+    {
+        {
+            FormTotemsConfig dialog(s.form.get());
+            dialog.iNumTotems = 1;
+            const UpdateFlag ok = updateFlagAround(dialog, [](QWidget* d) { clickOn(d, QStringLiteral("CommandOK")); });
+            QVERIFY2(ok.error.isEmpty(), qPrintable(ok.error));
+            QVERIFY(!ok.atLoad);
+            QVERIFY(ok.atClose);
+        }
+        FormTotemsConfig dialog(s.form.get());
+        dialog.iNumTotems = 1;
+        const UpdateFlag cancel = updateFlagAround(dialog, [](QWidget* d) { clickOn(d, QStringLiteral("CommandCancel")); });
+        QVERIFY2(cancel.error.isEmpty(), qPrintable(cancel.error));
+        QVERIFY(!cancel.atLoad);
+        QVERIFY(!cancel.atClose);
     }
 
     void cancelChangesNothing()
