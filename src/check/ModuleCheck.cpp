@@ -1,0 +1,133 @@
+#include "check/ModuleCheck.h"
+#include "model/CArduinoData.h"
+#include "model/CExoData.h"
+#include "model/CMainConfig.h"
+#include "model/CScene.h"
+#include "model/ModuleGlobals.h"
+#include "rules/ModuleEvents.h"
+#include "rules/ModuleGlobalEvents.h"
+
+namespace {
+
+// Every global that writing and reading a performance touches, kept aside so
+// that the check can put it back as it was. The collections keep the very
+// objects of the performance; the check works on copies of them.
+class ModelState {
+public:
+    ModelState()
+        : config(gMainConfig), scenes(gScenes), globals(gGlobalEvents), globalCount(gGlobalEventCount),
+          exo(gExoData), arduino(gArduinoData), axes(gTotemAxes), buttons(gTotemButtons), cards(gNDigitalIO),
+          cardIDs(gDigitalIOCardID), cardIns(gDigitalIONIn), cardOuts(gDigitalIONOut), maxEvents(gMaxEventsPerPart),
+          lastScene(gLastScene), currentScene(gCurrentScene), currentPart(gCurrentPart), dirty(gDirty),
+          path(gConfigFilePath), name(gConfigName), folder(gConfigFolder), movieCount(gMovieEventCount),
+          audioCount(gAudioEventCount), botCount(gBotEventCount), lightsCount(gLightsEventCount)
+    {
+    }
+
+    void Restore() const
+    {
+        gMainConfig = config;
+        gScenes = scenes;
+        gGlobalEvents = globals;
+        gGlobalEventCount = globalCount;
+        gExoData = exo;
+        gArduinoData = arduino;
+        gTotemAxes = axes;
+        gTotemButtons = buttons;
+        gNDigitalIO = cards;
+        gDigitalIOCardID = cardIDs;
+        gDigitalIONIn = cardIns;
+        gDigitalIONOut = cardOuts;
+        gMaxEventsPerPart = maxEvents;
+        gLastScene = lastScene;
+        gCurrentScene = currentScene;
+        gCurrentPart = currentPart;
+        gDirty = dirty;
+        gConfigFilePath = path;
+        gConfigName = name;
+        gConfigFolder = folder;
+        gMovieEventCount = movieCount;
+        gAudioEventCount = audioCount;
+        gBotEventCount = botCount;
+        gLightsEventCount = lightsCount;
+    }
+
+private:
+    CMainConfig config;
+    Collection<CScene> scenes;
+    Collection<CEvent> globals;
+    qint16 globalCount;
+    CheckedArray<CExoData, 0, 1> exo;
+    CheckedArray<CArduinoData, 0, 15> arduino;
+    CheckedArray<qint16, 0, 3> axes, buttons;
+    qint32 cards;
+    CheckedArray<qint32, 0, 3> cardIDs, cardIns, cardOuts;
+    qint16 maxEvents, lastScene, currentScene, currentPart;
+    bool dirty;
+    QString path, name, folder;
+    qint16 movieCount, audioCount, botCount, lightsCount;
+};
+
+// Copies of the scenes, subscenes, rules and capture settings, which the
+// writers may change (they store " " into empty texts).
+Collection<CScene> copyScenes(const Collection<CScene>& scenes)
+{
+    Collection<CScene> out;
+    for (const auto& scene : scenes) {
+        auto s = std::make_shared<CScene>(*scene);
+        s->PartList.Clear();
+        for (const auto& part : scene->PartList) {
+            auto p = std::make_shared<CPart>(*part);
+            p->AudioEvents.Clear();
+            for (const auto& rule : part->AudioEvents) {
+                auto r = std::make_shared<CEvent>();
+                CopyEvent(*r, *rule);
+                if (!rule->m_MsgOut)
+                    r->m_MsgOut.reset();
+                p->AudioEvents.Add(r);
+            }
+            for (int d = 0; d <= 3; ++d)
+                if (part->m_VideoCapture(d))
+                    p->m_VideoCapture(d) = std::make_shared<CVideoCapture>(*part->m_VideoCapture(d));
+            s->PartList.Add(p);
+        }
+        out.Add(s);
+    }
+    return out;
+}
+
+Collection<CEvent> copyRules(const Collection<CEvent>& rules)
+{
+    Collection<CEvent> out;
+    for (const auto& rule : rules) {
+        auto r = std::make_shared<CEvent>();
+        CopyEvent(*r, *rule);
+        if (!rule->m_MsgOut)
+            r->m_MsgOut.reset();
+        out.Add(r);
+    }
+    return out;
+}
+
+} // namespace
+
+std::vector<CFinding> CheckPerformance()
+{
+    std::vector<CFinding> findings;
+    const ModelState state;
+    CheckRuleBlocks(findings);
+    bool rulesBreak = false;
+    for (const auto& f : findings)
+        rulesBreak = rulesBreak || f.m_severity == Severity::Breaks;
+    try {
+        gScenes = copyScenes(gScenes);
+        gGlobalEvents = copyRules(gGlobalEvents);
+        CheckFilesRoundTrip(findings, rulesBreak);
+    } catch (...) {
+        state.Restore();
+        throw;
+    }
+    state.Restore();
+    CheckDevices(findings);
+    return findings;
+}
