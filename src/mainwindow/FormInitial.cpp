@@ -112,6 +112,7 @@ void FormInitial::buildMenus()
     Save = entry(File, QStringLiteral("Save"), QStringLiteral("&Save"));
     SaveAs = entry(File, QStringLiteral("SaveAs"), QStringLiteral("Save &As"));
     Print = entry(File, QStringLiteral("Print"), QStringLiteral("&Print"));
+    CheckPerformance = entry(File, QStringLiteral("CheckPerformance"), QStringLiteral("&Check Performance..."));
     File->addSeparator();
     Quit = entry(File, QStringLiteral("Quit"), QStringLiteral("&Quit"));
     Edit = menu(nullptr, QStringLiteral("Edit"), QStringLiteral("&Edit"));
@@ -290,6 +291,7 @@ void FormInitial::connectHandlers()
         connect(CheckSource[i], &QCheckBox::clicked, this, [this, i] { CheckSource_Click(i); });
     for (int i = 0; i < CheckTarget.size(); ++i)
         connect(CheckTarget[i], &QCheckBox::clicked, this, [this, i] { CheckTarget_Click(i); });
+    connect(CheckPerformance, &QAction::triggered, this, &FormInitial::CheckPerformance_Click);
 }
 // ---------------------------------------------------------------- start
 
