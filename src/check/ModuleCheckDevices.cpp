@@ -45,12 +45,14 @@ void itemBeyond(std::vector<CFinding>& out, const CFinding& place, const QString
 {
     if (item >= 0 && item < count)
         return;
+    const QString range = count > 0 ? QStringLiteral("they run from 0 to %1").arg(count - 1)
+                                    : QStringLiteral("there are none");
     out.push_back(finding(place, Severity::Breaks, FindingKind::Device, field,
-                          QStringLiteral("The %1 names %2 %3, but only %4 are configured. Choose it again in the rule "
-                                         "editor, or set up the device again.")
+                          QStringLiteral("The %1 names %2 %3, but %4. Choose it again in the rule editor, or set the "
+                                         "device up again.")
                               .arg(who, what)
                               .arg(item)
-                              .arg(std::max(count, 0))));
+                              .arg(range)));
 }
 
 // A number in text, or nothing.
@@ -80,6 +82,7 @@ void checkRuleDevices(std::vector<CFinding>& out, const CEvent& rule, const CFin
     case 1:
         deviceBeyond(out, place, source, QStringLiteral("m_iSource"), QStringLiteral("exoskeleton"), src,
                      std::min<int>(c.m_iNExos, 2));
+        itemBeyond(out, place, source, QStringLiteral("m_iItem"), QStringLiteral("suit item"), rule.m_iItem, 37);
         break;
     case 2:
         deviceBeyond(out, place, source, QStringLiteral("m_iSource"), QStringLiteral("joystick"), src,

@@ -93,9 +93,15 @@ private slots:
     void exoskeletonItemWithNoCodeIsWrittenAsMinus()
     {
         rule(1, 1, 1).m_iItem = 40;
-        const CFinding f = only(run(), FindingKind::ItemCode);
+        const auto findings = run();
+        QCOMPARE(findings.size(), size_t(2));
+        const CFinding f = findings[0];
+        QCOMPARE(f.m_kind, FindingKind::ItemCode);
         QCOMPARE(f.m_strField, QStringLiteral("m_iItem"));
         QVERIFY2(f.m_strText.contains(QStringLiteral("reads back as 37")), qPrintable(f.m_strText));
+        // No suit has such an item either.
+        QCOMPARE(findings[1].m_kind, FindingKind::Device);
+        QVERIFY2(findings[1].m_strText.contains(QStringLiteral("suit item 40")), qPrintable(findings[1].m_strText));
     }
 
     void charactersOutsideTheCodePageAreFound()
