@@ -79,7 +79,26 @@ void ReportDifferences(const std::vector<CheckedText>& texts, const std::vector<
         findings.push_back(f);
         return;
     }
-    const size_t before = findings.size();
+    if (!readOk) {
+        // Nothing in the texts explains it: the first value that came back
+        // otherwise is where the reading went wrong.
+        const ValueDifference* first = differences.empty() ? nullptr : &differences.front();
+        CFinding f = first ? at(first->place, first->hasPlace, place) : place;
+        f.m_severity = Severity::Breaks;
+        f.m_kind = FindingKind::ReadFails;
+        if (first) {
+            f.m_strField = first->field;
+            f.m_strText = QStringLiteral("The %1 cannot be read back: its reading fails at the %2 (written as %3), and "
+                                         "the Open stops there.")
+                              .arg(file, first->name, Quoted(first->meant));
+        } else {
+            f.m_strText = QStringLiteral("The %1 cannot be read back here: its reading fails, and what comes after is "
+                                         "missing at the next Open.")
+                              .arg(file);
+        }
+        findings.push_back(f);
+        return;
+    }
     for (const auto& d : differences) {
         CFinding f = at(d.place, d.hasPlace, place);
         f.m_severity = Severity::Lost;
@@ -98,15 +117,6 @@ void ReportDifferences(const std::vector<CheckedText>& texts, const std::vector<
             f.m_strText = QStringLiteral("The %1 is written as %2 but reads back as %3 at the next Open.")
                               .arg(d.name, Quoted(d.meant), Quoted(d.read));
         }
-        findings.push_back(f);
-    }
-    if (!readOk && findings.size() == before) {
-        CFinding f = place;
-        f.m_severity = Severity::Breaks;
-        f.m_kind = FindingKind::ReadFails;
-        f.m_strText = QStringLiteral("The %1 cannot be read back here: its reading fails, and what comes after is "
-                                     "missing at the next Open.")
-                          .arg(file);
         findings.push_back(f);
     }
 }

@@ -277,27 +277,9 @@ void compareEntries(const Entries& meant, const Entries& read, bool readOk, cons
         if (!r || r->field != m->field)
             break;   // the lists no longer line up
     }
-    if (!readOk && !differences.empty()) {
-        // Only the first difference counts: what follows it was never read.
-        differences.resize(1);
-        ValueDifference& d = differences.front();
-        bool explained = false;
-        for (const auto& t : texts)
-            if (t.value.contains(u'\r') || t.value.contains(u'\n') || (!t.separator.isNull() && t.value.contains(t.separator)))
-                explained = true;
-        if (!explained) {
-            d.kind = FindingKind::ReadFails;
-            d.explanation = QStringLiteral("The %1 cannot be read back: its reading fails at the %2 (written as %3), and "
-                                           "the Open stops there.")
-                                .arg(file, d.name, Quoted(d.meant));
-        }
-    }
+    if (!readOk && differences.size() > 1)
+        differences.resize(1);   // what follows the first difference was never read
     ReportDifferences(texts, differences, readOk, meant.place, file, findings);
-    // A failed reading is always something that breaks the show.
-    if (!readOk)
-        for (auto& f : findings)
-            if (f.m_kind == FindingKind::ReadFails)
-                f.m_severity = Severity::Breaks;
 }
 
 bool succeeds(const std::function<bool()>& step)
@@ -368,7 +350,7 @@ void CheckFilesRoundTrip(std::vector<CFinding>& findings, bool rulesAlreadyBreak
         writeFails(findings, QString(), QStringLiteral("The scenes file"),
                    QStringLiteral("a scene's subscene count disagrees with its subscenes."));
     const bool eventsWritten = succeeds([&] { return WriteEventsFile(PerformanceFilePath(cfg.m_strEventsFile)); });
-    if (!eventsWritten)
+    if (!eventsWritten && !rulesAlreadyBreak)
         writeFails(findings, QString(), QStringLiteral("The rules file"), QStringLiteral("a rule cannot be put into text."));
     std::vector<bool> exoWritten(exos, true), ardWritten(arduinos, true);
     for (int i = 0; i < exos; ++i)
@@ -382,7 +364,8 @@ void CheckFilesRoundTrip(std::vector<CFinding>& findings, bool rulesAlreadyBreak
                                       "is beyond its table. Set the board up again."));
     if (!succeeds([&] { return WriteVideoCaptureFile(PerformanceFilePath(QStringLiteral("VideoCapture.cfg"))); }))
         writeFails(findings, QString(), QStringLiteral("The capture settings file"), QStringLiteral("a setting cannot be put into text."));
-    if (!succeeds([&] { return WriteGlobalEventsFile(PerformanceFilePath(QStringLiteral("GlobalEvents.cfg"))); }))
+    if (!succeeds([&] { return WriteGlobalEventsFile(PerformanceFilePath(QStringLiteral("GlobalEvents.cfg"))); })
+        && !rulesAlreadyBreak)
         writeFails(findings, QString(), QStringLiteral("The global rules file"), QStringLiteral("a rule cannot be put into text."));
 
     // Reading back, file by file; no message box is shown.

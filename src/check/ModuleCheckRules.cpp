@@ -142,7 +142,19 @@ void checkRule(const CEvent& rule, bool global, const CFinding& place, std::vect
     CEvent written;
     CopyEvent(written, rule);
     QString block;
-    AppendRuleBlock(block, written, !global);
+    try {
+        AppendRuleBlock(block, written, !global);
+    } catch (const RuntimeError&) {
+        CFinding f = place;
+        f.m_severity = Severity::Breaks;
+        f.m_kind = FindingKind::WriteFails;
+        f.m_strField = QStringLiteral("m_iSource");
+        f.m_strText = QStringLiteral("The rule cannot be put into text, because it names a device beyond its table: "
+                                     "the %1 is not written at all. Choose the device again in the rule editor.")
+                          .arg(file);
+        findings.push_back(f);
+        return;
+    }
     block += QStringLiteral("\r\n");   // the empty line that ends a block
     TextFileReader reader = TextFileReader::FromBytes(ToWindows1252(block));
     CEvent read;
