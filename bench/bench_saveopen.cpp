@@ -6,7 +6,8 @@
 // save and open times, their throughput, and how many times slower each is
 // than the plain copy; then whether the time grows linearly with the rules.
 // At the largest size it also times each writer and reader of the sequence
-// on its own, to show where the time goes.
+// on its own, to show where the time goes. Last, the check of the performance
+// (CheckPerformance) at each size, against its limit of 200 ms at 10,000 rules.
 #include <algorithm>
 #include <chrono>
 #include <cmath>
@@ -22,6 +23,7 @@
 #include <QTemporaryDir>
 #include <QTimer>
 #include "support/Platform.h"
+#include "check/ModuleCheck.h"
 #include "files/ModuleArduinoData.h"
 #include "files/ModuleBotEvents.h"
 #include "files/ModuleConfig.h"
@@ -301,6 +303,9 @@ struct Row {
     double mb = 0;
     double saveMs = 0, openMs = 0, writeMs = 0, readMs = 0;   // medians
     double saveBest = 0, openBest = 0;                          // fastest runs
+    double checkMs = 0;                                         // the check of the performance, median
+    double checkBest = 0;                                       // its fastest run
+    size_t checkFindings = 0;
 };
 
 // Message boxes only appear on failure; report and close them so the run goes on.
@@ -460,7 +465,18 @@ int main(int argc, char** argv)
                             static_cast<long long>(total));
         }
 
+        // The check of the performance as the last open left it.
+        std::vector<double> checks;
+        size_t findings = 0;
+        for (int run = 0; run < kRuns; ++run)
+            checks.push_back(timeMs([&] { findings = CheckPerformance().size(); }));
+        if (countRules() != rulesBefore)
+            std::printf("WARNING: %d rules: the check changed the number of rules to %d\n", size, countRules());
+
         Row row;
+        row.checkMs = median(checks);
+        row.checkBest = *std::min_element(checks.begin(), checks.end());
+        row.checkFindings = findings;
         row.rules = size;
         row.mb = static_cast<double>(total) / (1024.0 * 1024.0);
         row.saveMs = median(saves);
@@ -521,5 +537,20 @@ int main(int argc, char** argv)
     const bool openLinear = fit(&Row::openBest, "open (fastest)");
     std::printf("time grows linearly with the number of rules (fastest runs): save %s, open %s\n",
                 saveLinear ? "yes" : "NO", openLinear ? "yes" : "NO");
+
+    // The check writes every file into a scratch folder, reads it back and
+    // compares, and looks at the devices: about one save and one open more.
+    constexpr double kCheckLimitMs = 200.0;
+    std::printf("\ncheck of the performance (median ms / fastest ms, findings):");
+    double checkAt10000 = -1, bestAt10000 = -1;
+    for (const Row& r : rows) {
+        std::printf("  %d: %.1f / %.1f (%zu)", r.rules, r.checkMs, r.checkBest, r.checkFindings);
+        if (r.rules == 10000) {
+            checkAt10000 = r.checkMs;
+            bestAt10000 = r.checkBest;
+        }
+    }
+    std::printf("\ncheck of 10,000 rules: median %.1f ms, fastest %.1f ms, limit %.0f ms -> %s\n", checkAt10000,
+                bestAt10000, kCheckLimitMs, checkAt10000 >= 0 && checkAt10000 < kCheckLimitMs ? "within" : "OVER");
     return 0;
 }

@@ -11,7 +11,7 @@ namespace {
 
 // Every global that writing and reading a performance touches, kept aside so
 // that the check can put it back as it was. The collections keep the very
-// objects of the performance; the check works on copies of them.
+// objects of the performance: the readers only replace the collections.
 class ModelState {
 public:
     ModelState()
@@ -68,34 +68,7 @@ private:
     qint16 movieCount, audioCount, botCount, lightsCount;
 };
 
-// Copies of the scenes, subscenes, rules and capture settings, which the
-// writers may change (they store " " into empty texts).
-Collection<CScene> copyScenes(const Collection<CScene>& scenes)
-{
-    Collection<CScene> out;
-    for (const auto& scene : scenes) {
-        auto s = std::make_shared<CScene>(*scene);
-        s->PartList.Clear();
-        for (const auto& part : scene->PartList) {
-            auto p = std::make_shared<CPart>(*part);
-            p->AudioEvents.Clear();
-            for (const auto& rule : part->AudioEvents) {
-                auto r = std::make_shared<CEvent>();
-                CopyEvent(*r, *rule);
-                if (!rule->m_MsgOut)
-                    r->m_MsgOut.reset();
-                p->AudioEvents.Add(r);
-            }
-            for (int d = 0; d <= 3; ++d)
-                if (part->m_VideoCapture(d))
-                    p->m_VideoCapture(d) = std::make_shared<CVideoCapture>(*part->m_VideoCapture(d));
-            s->PartList.Add(p);
-        }
-        out.Add(s);
-    }
-    return out;
-}
-
+// Copies of the rules, which the writer changes (it stores " " into empty texts).
 Collection<CEvent> copyRules(const Collection<CEvent>& rules)
 {
     Collection<CEvent> out;
@@ -120,7 +93,6 @@ std::vector<CFinding> CheckPerformance()
     for (const auto& f : findings)
         rulesBreak = rulesBreak || f.m_severity == Severity::Breaks;
     try {
-        gScenes = copyScenes(gScenes);
         gGlobalEvents = copyRules(gGlobalEvents);
         CheckFilesRoundTrip(findings, rulesBreak);
     } catch (...) {

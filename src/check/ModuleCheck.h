@@ -21,8 +21,10 @@ std::vector<CFinding> CheckPerformance();
 // Each rule of every subscene (up to gMaxEventsPerPart) and each global rule,
 // its block built by the rules writer and read back by the rules reader.
 void CheckRuleBlocks(std::vector<CFinding>& findings);
-// Every file of the performance written to a scratch folder and read back; the
-// global state must be a copy that may be changed (CheckPerformance sees to it).
+// Every file of the performance but the rules file written to a scratch folder
+// and read back, and the rules that the rules file leaves out. It changes the
+// globals: CheckPerformance puts them back, and hands it copies of the global
+// rules, which the writer changes.
 void CheckFilesRoundTrip(std::vector<CFinding>& findings, bool rulesAlreadyBreak);
 // Devices, ports, channels and items named beyond what is configured; robot
 // rules; COM ports and OSC connections given twice; minimums above maximums.

@@ -32,12 +32,13 @@ void deviceBeyond(std::vector<CFinding>& out, const CFinding& place, const QStri
 {
     if (number >= 0 && number < count)
         return;
+    // Put together without arg(): a performance can have one of these for every action.
     out.push_back(finding(place, Severity::Breaks, FindingKind::Device, field,
-                          QStringLiteral("The %1 names %2 %3, but the performance has %4. Choose another in the rule "
-                                         "editor, or raise the count in the device panel.")
-                              .arg(who, device)
-                              .arg(number + 1)
-                              .arg(std::max(count, 0))));
+                          QStringLiteral("The ") + who + QStringLiteral(" names ") + device + u' '
+                              + QString::number(number + 1) + QStringLiteral(", but the performance has ")
+                              + QString::number(std::max(count, 0))
+                              + QStringLiteral(". Choose another in the rule editor, or raise the count in the device "
+                                               "panel.")));
 }
 
 void itemBeyond(std::vector<CFinding>& out, const CFinding& place, const QString& who, const QString& field,
@@ -45,14 +46,12 @@ void itemBeyond(std::vector<CFinding>& out, const CFinding& place, const QString
 {
     if (item >= 0 && item < count)
         return;
-    const QString range = count > 0 ? QStringLiteral("they run from 0 to %1").arg(count - 1)
+    const QString range = count > 0 ? QStringLiteral("they run from 0 to ") + QString::number(count - 1)
                                     : QStringLiteral("there are none");
     out.push_back(finding(place, Severity::Breaks, FindingKind::Device, field,
-                          QStringLiteral("The %1 names %2 %3, but %4. Choose it again in the rule editor, or set the "
-                                         "device up again.")
-                              .arg(who, what)
-                              .arg(item)
-                              .arg(range)));
+                          QStringLiteral("The ") + who + QStringLiteral(" names ") + what + u' ' + QString::number(item)
+                              + QStringLiteral(", but ") + range
+                              + QStringLiteral(". Choose it again in the rule editor, or set the device up again.")));
 }
 
 // A number in text, or nothing.
@@ -129,8 +128,8 @@ void checkRuleDevices(std::vector<CFinding>& out, const CEvent& rule, const CFin
     int n = 0;
     for (const auto& action : *rule.m_MsgOut) {
         ++n;
-        const QString who = QStringLiteral("action %1").arg(n);
-        const QString field = QStringLiteral("m_MsgOut(%1).m_iTarget").arg(n);
+        const QString who = QStringLiteral("action ") + QString::number(n);
+        const QString field = QStringLiteral("m_MsgOut(") + QString::number(n) + QStringLiteral(").m_iTarget");
         const qint16 t = action->m_iTarget;
         switch (action->m_iTargetType) {
         case 3:
@@ -170,8 +169,9 @@ void checkRuleDevices(std::vector<CFinding>& out, const CEvent& rule, const CFin
         default:
             break;
         }
-        checkRange(out, place, who + QStringLiteral("'s"), QStringLiteral("m_MsgOut(%1).m_strMin").arg(n),
-                   action->m_strMin, action->m_strMax);
+        if (!action->m_strMin.isEmpty() && !action->m_strMax.isEmpty())
+            checkRange(out, place, who + QStringLiteral("'s"), QStringLiteral("m_MsgOut(%1).m_strMin").arg(n),
+                       action->m_strMin, action->m_strMax);
     }
 }
 

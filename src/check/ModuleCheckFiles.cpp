@@ -1,6 +1,7 @@
-// The whole performance written into a scratch folder by the program's writers
-// and read back by its readers, file by file, and compared with what each line
-// was meant to carry.
+// The performance written into a scratch folder by the program's writers and
+// read back by its readers, file by file, and compared with what each line was
+// meant to carry. The rules file is the exception: each rule's block is read
+// back on its own (ModuleCheckRules.cpp), which also tells which rule broke.
 #include "check/ModuleCheck.h"
 #include <algorithm>
 #include <QTemporaryDir>
@@ -349,9 +350,6 @@ void CheckFilesRoundTrip(std::vector<CFinding>& findings, bool rulesAlreadyBreak
     if (!succeeds([&] { return WriteScenesFile(PerformanceFilePath(cfg.m_strScenesFile)); }))
         writeFails(findings, QString(), QStringLiteral("The scenes file"),
                    QStringLiteral("a scene's subscene count disagrees with its subscenes."));
-    const bool eventsWritten = succeeds([&] { return WriteEventsFile(PerformanceFilePath(cfg.m_strEventsFile)); });
-    if (!eventsWritten && !rulesAlreadyBreak)
-        writeFails(findings, QString(), QStringLiteral("The rules file"), QStringLiteral("a rule cannot be put into text."));
     std::vector<bool> exoWritten(exos, true), ardWritten(arduinos, true);
     for (int i = 0; i < exos; ++i)
         if (!(exoWritten[i] = succeeds([&] { return WriteExoDataFile(qint16(i), PerformanceFilePath(cfg.m_strExoDataFile(i))); })))
@@ -401,43 +399,30 @@ void CheckFilesRoundTrip(std::vector<CFinding>& findings, bool rulesAlreadyBreak
     if (!scenesOk)
         return;
 
-    if (eventsWritten) {
-        const bool eventsOk = succeeds([&] { return ReadEventsFile(PerformanceFilePath(cfg.m_strEventsFile)); });
-        for (size_t s = 0; s < meantCounts.size(); ++s)
-            for (size_t p = 0; p < meantCounts[s].size(); ++p) {
-                const int meant = meantCounts[s][p];
-                if (meant <= maxEvents)
-                    continue;
-                int back = -1;
-                if (eventsOk && static_cast<int>(s) < gScenes.Count()
-                    && static_cast<int>(p) < gScenes.Item(int(s) + 1)->PartList.Count())
-                    back = gScenes.Item(int(s) + 1)->PartList.Item(int(p) + 1)->AudioEvents.Count();
-                if (eventsOk && back == meant)
-                    continue;   // not confirmed by the reading
-                CFinding f;
-                f.m_iScene = static_cast<qint16>(s);
-                f.m_iPart = static_cast<qint16>(p);
-                f.m_iRule = maxEvents + 1;
-                f.m_severity = Severity::Lost;
-                f.m_kind = FindingKind::Dropped;
-                f.m_strField = QStringLiteral("gMaxEventsPerPart");
-                f.m_strText = QStringLiteral("Rules %1 to %2 of this subscene are beyond the %3 rules a subscene may have "
-                                             "in the rules file: they are not written, and they are gone after the next "
-                                             "Open. Adding a rule to this subscene raises that limit.")
-                                  .arg(maxEvents + 1)
-                                  .arg(meant)
-                                  .arg(maxEvents);
-                findings.push_back(f);
-            }
-        if (!eventsOk && !rulesAlreadyBreak) {
+    // The rules of the subscenes: each block was read back on its own
+    // (CheckRuleBlocks); what the rules file leaves out is what lies beyond
+    // the highest count that it carries.
+    for (size_t s = 0; s < meantCounts.size(); ++s)
+        for (size_t p = 0; p < meantCounts[s].size(); ++p) {
+            const int meant = meantCounts[s][p];
+            if (meant <= std::max<int>(maxEvents, 0))
+                continue;
+            const int first = std::max<int>(maxEvents, 0) + 1;
             CFinding f;
-            f.m_severity = Severity::Breaks;
-            f.m_kind = FindingKind::ReadFails;
-            f.m_strText = QStringLiteral("The rules file cannot be read back (%1).")
-                              .arg(messages.texts.isEmpty() ? QString() : messages.texts.last().simplified());
+            f.m_iScene = static_cast<qint16>(s);
+            f.m_iPart = static_cast<qint16>(p);
+            f.m_iRule = first;
+            f.m_severity = Severity::Lost;
+            f.m_kind = FindingKind::Dropped;
+            f.m_strField = QStringLiteral("gMaxEventsPerPart");
+            f.m_strText = QStringLiteral("Rules %1 to %2 of this subscene are beyond the %3 rules a subscene may have "
+                                         "in the rules file: they are not written, and they are gone after the next "
+                                         "Open. Adding a rule to this subscene raises that limit.")
+                              .arg(first)
+                              .arg(meant)
+                              .arg(first - 1);
             findings.push_back(f);
         }
-    }
     const bool globalsOk = succeeds([&] { return ReadGlobalEventsFile(PerformanceFilePath(QStringLiteral("GlobalEvents.cfg"))); });
     if (globalsOk && gGlobalEvents.Count() != meantGlobals && !rulesAlreadyBreak) {
         CFinding f;
