@@ -25,34 +25,54 @@ CFinding finding(const CFinding& place, Severity severity, FindingKind kind, con
     return f;
 }
 
-// Reports `number` (0-based) when it is not below `count`: "names Arduino 3,
-// but the performance has 2".
-void deviceBeyond(std::vector<CFinding>& out, const CFinding& place, const QString& who, const QString& field,
-                  const QString& device, int number, int count)
-{
-    if (number >= 0 && number < count)
-        return;
-    // Put together without arg(): a performance can have one of these for every action.
-    out.push_back(finding(place, Severity::Breaks, FindingKind::Device, field,
-                          QStringLiteral("The ") + who + QStringLiteral(" names ") + device + u' '
-                              + QString::number(number + 1) + QStringLiteral(", but the performance has ")
-                              + QString::number(std::max(count, 0))
-                              + QStringLiteral(". Choose another in the rule editor, or raise the count in the device "
-                                               "panel.")));
-}
+// What one rule names beyond what is configured: a phrase each, put together
+// into one finding per rule (a performance can have one for every action).
+struct Problems {
+    struct Problem {
+        QString field;
+        QString phrase;
+        bool device;   // a device beyond the count, else an item beyond its device
+    };
+    std::vector<Problem> list;
 
-void itemBeyond(std::vector<CFinding>& out, const CFinding& place, const QString& who, const QString& field,
-                const QString& what, int item, int count)
-{
-    if (item >= 0 && item < count)
-        return;
-    const QString range = count > 0 ? QStringLiteral("they run from 0 to ") + QString::number(count - 1)
-                                    : QStringLiteral("there are none");
-    out.push_back(finding(place, Severity::Breaks, FindingKind::Device, field,
-                          QStringLiteral("The ") + who + QStringLiteral(" names ") + what + u' ' + QString::number(item)
-                              + QStringLiteral(", but ") + range
-                              + QStringLiteral(". Choose it again in the rule editor, or set the device up again.")));
-}
+    // `number` (0-based) not below `count`: "action 1 names Arduino 3, but the performance has 2".
+    void Device(const QString& who, const QString& field, const QString& device, int number, int count)
+    {
+        if (number >= 0 && number < count)
+            return;
+        list.push_back({field,
+                        who + QStringLiteral(" names ") + device + u' ' + QString::number(number + 1)
+                            + QStringLiteral(", but the performance has ") + QString::number(std::max(count, 0)),
+                        true});
+    }
+    // `item` not from 0 to `count` - 1: "source names pin 12, but they run from 0 to 11".
+    void Item(const QString& who, const QString& field, const QString& what, int item, int count)
+    {
+        if (item >= 0 && item < count)
+            return;
+        list.push_back({field,
+                        who + QStringLiteral(" names ") + what + u' ' + QString::number(item) + QStringLiteral(", but ")
+                            + (count > 0 ? QStringLiteral("they run from 0 to ") + QString::number(count - 1)
+                                         : QStringLiteral("there are none")),
+                        false});
+    }
+
+    void Report(std::vector<CFinding>& out, const CFinding& place) const
+    {
+        if (list.empty())
+            return;
+        QString text = QStringLiteral("The ") + list.front().phrase;
+        for (size_t i = 1; i < list.size(); ++i)
+            text += QStringLiteral("; the ") + list[i].phrase;
+        if (list.size() > 1)
+            text += QStringLiteral(". Choose them again in the rule editor, or raise the counts in the device panel.");
+        else if (list.front().device)
+            text += QStringLiteral(". Choose another in the rule editor, or raise the count in the device panel.");
+        else
+            text += QStringLiteral(". Choose it again in the rule editor, or set the device up again.");
+        out.push_back(finding(place, Severity::Breaks, FindingKind::Device, list.front().field, text));
+    }
+};
 
 // A number in text, or nothing.
 bool numberIn(const QString& text, double& value)
@@ -74,57 +94,60 @@ void checkRange(std::vector<CFinding>& out, const CFinding& place, const QString
 
 void checkRuleDevices(std::vector<CFinding>& out, const CEvent& rule, const CFinding& place)
 {
+    Problems problems;
     const CMainConfig& c = gMainConfig;
     const QString source = QStringLiteral("source");
     const qint16 src = rule.m_iSource;
     switch (rule.m_iSourceType) {
     case 1:
-        deviceBeyond(out, place, source, QStringLiteral("m_iSource"), QStringLiteral("exoskeleton"), src,
+        problems.Device(source, QStringLiteral("m_iSource"), QStringLiteral("exoskeleton"), src,
                      std::min<int>(c.m_iNExos, 2));
-        itemBeyond(out, place, source, QStringLiteral("m_iItem"), QStringLiteral("suit item"), rule.m_iItem, 37);
+        problems.Item(source, QStringLiteral("m_iItem"), QStringLiteral("suit item"), rule.m_iItem, 37);
         break;
     case 2:
-        deviceBeyond(out, place, source, QStringLiteral("m_iSource"), QStringLiteral("joystick"), src,
+        problems.Device(source, QStringLiteral("m_iSource"), QStringLiteral("joystick"), src,
                      std::min<int>(c.m_iNTotems, 4));
         if (src >= 0 && src < std::min<int>(c.m_iNTotems, 4))
-            itemBeyond(out, place, source, QStringLiteral("m_iItem"), QStringLiteral("axis or button item"), rule.m_iItem,
+            problems.Item(source, QStringLiteral("m_iItem"), QStringLiteral("axis or button item"), rule.m_iItem,
                        gTotemAxes(src) + gTotemButtons(src));
         break;
     case 3:
         // The number of players itself stands for all players.
-        deviceBeyond(out, place, source, QStringLiteral("m_iSource"), QStringLiteral("Flash player"), src,
+        problems.Device(source, QStringLiteral("m_iSource"), QStringLiteral("Flash player"), src,
                      std::min<int>(c.m_iNFlash, 16) + 1);
         break;
     case 5:
-        deviceBeyond(out, place, source, QStringLiteral("m_iSource"), QStringLiteral("digital IO card"), src,
+        problems.Device(source, QStringLiteral("m_iSource"), QStringLiteral("digital IO card"), src,
                      std::min<int>(gNDigitalIO, 4));
         if (src >= 0 && src < std::min<int>(gNDigitalIO, 4))
-            itemBeyond(out, place, source, QStringLiteral("m_iItem"), QStringLiteral("input"), rule.m_iItem,
+            problems.Item(source, QStringLiteral("m_iItem"), QStringLiteral("input"), rule.m_iItem,
                        gDigitalIONIn(src));
         break;
     case 6:
-        deviceBeyond(out, place, source, QStringLiteral("m_iSource"), QStringLiteral("MIDI device"), src,
+        problems.Device(source, QStringLiteral("m_iSource"), QStringLiteral("MIDI device"), src,
                      std::min<int>(c.m_iNMIDIs, 8));
         break;
     case 7:
-        deviceBeyond(out, place, source, QStringLiteral("m_iSource"), QStringLiteral("Arduino"), src,
+        problems.Device(source, QStringLiteral("m_iSource"), QStringLiteral("Arduino"), src,
                      std::min<int>(c.m_iNArduinos, 16));
         if (src >= 0 && src < std::min<int>(c.m_iNArduinos, 16)) {
             const CArduinoData& a = gArduinoData(src);
-            itemBeyond(out, place, source, QStringLiteral("m_iItem"), QStringLiteral("pin"), rule.m_iItem,
+            problems.Item(source, QStringLiteral("m_iItem"), QStringLiteral("pin"), rule.m_iItem,
                        a.m_iNumAnalogInputs + a.m_iNumDigitalIOs);
         }
         break;
     case 8:
-        deviceBeyond(out, place, source, QStringLiteral("m_iSource"), QStringLiteral("OSC connection"), src,
+        problems.Device(source, QStringLiteral("m_iSource"), QStringLiteral("OSC connection"), src,
                      std::min<int>(c.m_iNOSCs, 16));
         break;
     default:
         break;
     }
     checkRange(out, place, QStringLiteral("source"), QStringLiteral("m_strMin"), rule.m_strMin, rule.m_strMax);
-    if (!rule.m_MsgOut)
+    if (!rule.m_MsgOut) {
+        problems.Report(out, place);
         return;
+    }
     int n = 0;
     for (const auto& action : *rule.m_MsgOut) {
         ++n;
@@ -133,38 +156,38 @@ void checkRuleDevices(std::vector<CFinding>& out, const CEvent& rule, const CFin
         const qint16 t = action->m_iTarget;
         switch (action->m_iTargetType) {
         case 3:
-            deviceBeyond(out, place, who, field, QStringLiteral("Flash player"), t, std::min<int>(c.m_iNFlash, 16) + 1);
+            problems.Device(who, field, QStringLiteral("Flash player"), t, std::min<int>(c.m_iNFlash, 16) + 1);
             break;
         case 6:
-            deviceBeyond(out, place, who, field, QStringLiteral("MIDI device"), t, std::min<int>(c.m_iNMIDIs, 8));
+            problems.Device(who, field, QStringLiteral("MIDI device"), t, std::min<int>(c.m_iNMIDIs, 8));
             break;
         case 7:
-            deviceBeyond(out, place, who, field, QStringLiteral("Arduino"), t, std::min<int>(c.m_iNArduinos, 16));
+            problems.Device(who, field, QStringLiteral("Arduino"), t, std::min<int>(c.m_iNArduinos, 16));
             if (t >= 0 && t < std::min<int>(c.m_iNArduinos, 16)) {
                 const CArduinoData& a = gArduinoData(t);
-                itemBeyond(out, place, who, QStringLiteral("m_MsgOut(%1).m_iCommand").arg(n), QStringLiteral("pin"),
+                problems.Item(who, QStringLiteral("m_MsgOut(%1).m_iCommand").arg(n), QStringLiteral("pin"),
                            action->m_iCommand, a.m_iNumAnalogInputs + a.m_iNumDigitalIOs);
             }
             break;
         case 8:
-            deviceBeyond(out, place, who, field, QStringLiteral("OSC connection"), t, std::min<int>(c.m_iNOSCs, 16));
+            problems.Device(who, field, QStringLiteral("OSC connection"), t, std::min<int>(c.m_iNOSCs, 16));
             break;
         case 9:
             // "Switch Player To App": the command is the display manager, the
             // manager count itself stands for all of them; the first value the application.
             if (t == 2) {
                 const int managers = std::min<int>(c.m_iNQDMs, 8);
-                deviceBeyond(out, place, who, QStringLiteral("m_MsgOut(%1).m_iCommand").arg(n),
+                problems.Device(who, QStringLiteral("m_MsgOut(%1).m_iCommand").arg(n),
                              QStringLiteral("display manager"), action->m_iCommand, managers + 1);
                 double app = 0;
                 if (action->m_iCommand >= 0 && action->m_iCommand < managers && numberIn(action->m_strVal1, app))
-                    itemBeyond(out, place, who, QStringLiteral("m_MsgOut(%1).m_strVal1").arg(n),
+                    problems.Item(who, QStringLiteral("m_MsgOut(%1).m_strVal1").arg(n),
                                QStringLiteral("video application"), static_cast<int>(app),
                                std::min<int>(c.m_iNAppPerQDM(action->m_iCommand), 8));
             }
             break;
         case 10:
-            deviceBeyond(out, place, who, field, QStringLiteral("capture device"), t, std::min<int>(c.m_iNVideoCaps, 4));
+            problems.Device(who, field, QStringLiteral("capture device"), t, std::min<int>(c.m_iNVideoCaps, 4));
             break;
         default:
             break;
@@ -173,6 +196,7 @@ void checkRuleDevices(std::vector<CFinding>& out, const CEvent& rule, const CFin
             checkRange(out, place, who + QStringLiteral("'s"), QStringLiteral("m_MsgOut(%1).m_strMin").arg(n),
                        action->m_strMin, action->m_strMax);
     }
+    problems.Report(out, place);
 }
 
 CFinding devicePlace(const QString& device)
