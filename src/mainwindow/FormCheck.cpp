@@ -41,6 +41,11 @@ FormCheck::FormCheck(std::vector<CFinding> findings, QWidget* owner) : QDialog(o
     ListFindings->setAlternatingRowColors(true);
     ListFindings->setSelectionMode(QAbstractItemView::SingleSelection);
     ListFindings->header()->setStretchLastSection(true);
+    LabelFinding = named(new QLabel(this), QStringLiteral("LabelFinding"));
+    LabelFinding->setWordWrap(true);
+    LabelFinding->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    LabelFinding->setMinimumHeight(48);
+    LabelFinding->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     CommandClose = named(new QPushButton(QStringLiteral("Close"), this), QStringLiteral("CommandClose"));
     CommandClose->setDefault(true);
 
@@ -67,12 +72,19 @@ FormCheck::FormCheck(std::vector<CFinding> findings, QWidget* owner) : QDialog(o
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(LabelSummary);
     layout->addWidget(ListFindings, 1);
+    layout->addWidget(LabelFinding);
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
     buttons->addWidget(CommandClose);
     layout->addLayout(buttons);
     resize(900, 420);
 
+    if (QTreeWidgetItem* first = ListFindings->topLevelItem(0)) {
+        ListFindings->setCurrentItem(first);
+        ListFindings_Click(first);
+    }
+
+    connect(ListFindings, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* item, int) { ListFindings_Click(item); });
     connect(ListFindings, &QTreeWidget::itemDoubleClicked, this,
             [this](QTreeWidgetItem* item, int) { ListFindings_DblClick(item); });
     connect(CommandClose, &QPushButton::clicked, this, &FormCheck::CommandClose_Click);
@@ -81,6 +93,12 @@ FormCheck::FormCheck(std::vector<CFinding> findings, QWidget* owner) : QDialog(o
 const CFinding& FormCheck::FindingOf(const QTreeWidgetItem* item) const
 {
     return m_findings.at(static_cast<size_t>(item->data(0, kFindingRole).toInt()));
+}
+
+void FormCheck::ListFindings_Click(QTreeWidgetItem* item)
+{
+    if (item)
+        LabelFinding->setText(PlaceText(FindingOf(item)) + QStringLiteral(": ") + FindingOf(item).m_strText);
 }
 
 void FormCheck::ListFindings_DblClick(QTreeWidgetItem* item)

@@ -19,6 +19,7 @@ public:
 
     QLabel* LabelSummary;        // how many findings, or that nothing was found
     QTreeWidget* ListFindings;   // Severity, Place, Finding
+    QLabel* LabelFinding;        // the whole sentence of the selected finding
     QPushButton* CommandClose;
 
     // Called by a double click with the finding of the row.
@@ -28,6 +29,8 @@ public:
     // The finding a row of ListFindings stands for.
     const CFinding& FindingOf(const QTreeWidgetItem* item) const;
 
+    // Shows the whole sentence of the finding in LabelFinding.
+    void ListFindings_Click(QTreeWidgetItem* item);
     void ListFindings_DblClick(QTreeWidgetItem* item);
     void CommandClose_Click();
 

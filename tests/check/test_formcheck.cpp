@@ -106,7 +106,7 @@ private slots:
 
         QStringList headers, severities, places;
         QString summary;
-        QString sceneSelected, ruleSelected, globalRuleSelected;
+        QString sceneSelected, ruleSelected, globalRuleSelected, detail;
         bool globalView = false, globalRowSelected = false;
         DialogDriver driver;
         driver.next([&](QWidget* w) {
@@ -120,6 +120,7 @@ private slots:
             summary = DialogDriver::find<QLabel>(w, QStringLiteral("LabelSummary"))->text();
             if (auto* item = rowWithPlace(list, QStringLiteral("Scene 1, subscene 0, rule 1"))) {
                 doubleClick(list, item);
+                detail = DialogDriver::find<QLabel>(w, QStringLiteral("LabelFinding"))->text();
                 const auto rows = form->ListMain2->selectedItems();
                 sceneSelected = rows.size() == 1 ? rows.front()->text(0) : QString();
                 ruleSelected = selectedRuleNumber(form->ListEvents);
@@ -145,6 +146,8 @@ private slots:
         QVERIFY2(summary.startsWith(QStringLiteral("3 findings")), qPrintable(summary));
         QVERIFY2(sceneSelected.startsWith(QStringLiteral("001")), qPrintable(sceneSelected));
         QCOMPARE(ruleSelected, QStringLiteral("1"));
+        QVERIFY2(detail.startsWith(QStringLiteral("Scene 1, subscene 0, rule 1: The remark \"Bow; then dark\" holds")),
+                 qPrintable(detail));
         QVERIFY(globalView);
         QVERIFY(globalRowSelected);
         QCOMPARE(globalRuleSelected, QStringLiteral("1"));
