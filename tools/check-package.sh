@@ -25,7 +25,7 @@ files=(usr/bin/qelsetup usr/bin/qel-check
        usr/share/applications/org.qel.qelsetup.desktop
        usr/share/icons/hicolor/scalable/apps/org.qel.qelsetup.svg
        usr/share/metainfo/org.qel.qelsetup.metainfo.xml)
-if grep -q 'qel-suit-sim' "$BUILD_DIR/build.ninja"; then
+if ninja -C "$BUILD_DIR" -t targets all 2>/dev/null | grep -q '^qel-suit-sim:'; then
   files+=(usr/bin/qel-suit-sim)
 fi
 for f in "${files[@]}"; do
