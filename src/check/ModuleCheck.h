@@ -13,13 +13,14 @@
 #include <vector>
 #include "check/CFinding.h"
 
-// All findings, most serious first within each kind of check.
+// All findings, in the order found: the rules, then the files, then the devices.
 std::vector<CFinding> CheckPerformance();
 
 // --- the parts of the check, each adding to `findings` ------------------------
 
 // Each rule of every subscene (up to gMaxEventsPerPart) and each global rule,
-// its block built by the rules writer and read back by the rules reader.
+// its block built by the rules writer and read back by the rules reader. The
+// writer's " " in empty texts is taken out of the records again at once.
 void CheckRuleBlocks(std::vector<CFinding>& findings);
 // Every file of the performance but the rules file written to a scratch folder
 // and read back, and the rules that the rules file leaves out. It changes the
