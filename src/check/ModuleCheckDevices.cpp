@@ -25,177 +25,179 @@ CFinding finding(const CFinding& place, Severity severity, FindingKind kind, con
     return f;
 }
 
-// What one rule names beyond what is configured: a phrase each, put together
-// into one finding per rule (a performance can have one for every action).
+// Who in a rule: "source", or "action 2".
+QString whoIn(int action)
+{
+    return action == 0 ? QStringLiteral("source") : QStringLiteral("action ") + QString::number(action);
+}
+
+// The record field of the rule or of its action `action` (1-based; 0 for the rule).
+QString fieldIn(int action, const char* member)
+{
+    if (action == 0)
+        return QLatin1String(member);
+    return QStringLiteral("m_MsgOut(") + QString::number(action) + QStringLiteral(").") + QLatin1String(member);
+}
+
+// What one rule names beyond what is configured, put together into one finding
+// per rule (a performance can have one for every action). The texts are only
+// made for what is reported.
 struct Problems {
     struct Problem {
-        QString field;
-        QString phrase;
-        bool device;   // a device beyond the count, else an item beyond its device
+        int action;           // 1-based; 0 for the source
+        const char* member;   // the record field
+        const char* what;     // "MIDI device", "pin"
+        int number;
+        int count;
+        bool device;          // a device beyond the count, else an item beyond its device
     };
     std::vector<Problem> list;
 
     // `number` (0-based) not below `count`: "action 1 names Arduino 3, but the performance has 2".
-    void Device(const QString& who, const QString& field, const QString& device, int number, int count)
+    void Device(int action, const char* member, const char* device, int number, int count)
     {
-        if (number >= 0 && number < count)
-            return;
-        list.push_back({field,
-                        who + QStringLiteral(" names ") + device + u' ' + QString::number(number + 1)
-                            + QStringLiteral(", but the performance has ") + QString::number(std::max(count, 0)),
-                        true});
+        if (number < 0 || number >= count)
+            list.push_back({action, member, device, number, count, true});
     }
     // `item` not from 0 to `count` - 1: "source names pin 12, but they run from 0 to 11".
-    void Item(const QString& who, const QString& field, const QString& what, int item, int count)
+    void Item(int action, const char* member, const char* what, int item, int count)
     {
-        if (item >= 0 && item < count)
-            return;
-        list.push_back({field,
-                        who + QStringLiteral(" names ") + what + u' ' + QString::number(item) + QStringLiteral(", but ")
-                            + (count > 0 ? QStringLiteral("they run from 0 to ") + QString::number(count - 1)
-                                         : QStringLiteral("there are none")),
-                        false});
+        if (item < 0 || item >= count)
+            list.push_back({action, member, what, item, count, false});
+    }
+
+    static QString phrase(const Problem& p)
+    {
+        if (p.device)
+            return whoIn(p.action) + QStringLiteral(" names ") + QLatin1String(p.what) + u' '
+                + QString::number(p.number + 1) + QStringLiteral(", but the performance has ")
+                + QString::number(std::max(p.count, 0));
+        return whoIn(p.action) + QStringLiteral(" names ") + QLatin1String(p.what) + u' ' + QString::number(p.number)
+            + QStringLiteral(", but ")
+            + (p.count > 0 ? QStringLiteral("they run from 0 to ") + QString::number(p.count - 1)
+                           : QStringLiteral("there are none"));
     }
 
     void Report(std::vector<CFinding>& out, const CFinding& place) const
     {
         if (list.empty())
             return;
-        QString text = QStringLiteral("The ") + list.front().phrase;
+        QString text = QStringLiteral("The ") + phrase(list.front());
         for (size_t i = 1; i < list.size(); ++i)
-            text += QStringLiteral("; the ") + list[i].phrase;
+            text += QStringLiteral("; the ") + phrase(list[i]);
         if (list.size() > 1)
             text += QStringLiteral(". Choose them again in the rule editor, or raise the counts in the device panel.");
         else if (list.front().device)
             text += QStringLiteral(". Choose another in the rule editor, or raise the count in the device panel.");
         else
             text += QStringLiteral(". Choose it again in the rule editor, or set the device up again.");
-        out.push_back(finding(place, Severity::Breaks, FindingKind::Device, list.front().field, text));
+        out.push_back(finding(place, Severity::Breaks, FindingKind::Device,
+                              fieldIn(list.front().action, list.front().member), text));
     }
 };
 
 // A number in text, or nothing.
 bool numberIn(const QString& text, double& value)
 {
+    const QStringView trimmed = QStringView(text).trimmed();
     bool ok = false;
-    value = text.trimmed().toDouble(&ok);
-    return ok && !text.trimmed().isEmpty();
+    value = trimmed.isEmpty() ? 0 : trimmed.toDouble(&ok);
+    return ok;
 }
 
-void checkRange(std::vector<CFinding>& out, const CFinding& place, const QString& who, const QString& field,
-                const QString& min, const QString& max)
+void checkRange(std::vector<CFinding>& out, const CFinding& place, int action, const QString& min, const QString& max)
 {
     double lo = 0, hi = 0;
     if (numberIn(min, lo) && numberIn(max, hi) && lo > hi)
-        out.push_back(finding(place, Severity::Look, FindingKind::MinMax, field,
+        out.push_back(finding(place, Severity::Look, FindingKind::MinMax, fieldIn(action, "m_strMin"),
                               QStringLiteral("The %1 minimum %2 is above its maximum %3. Swap them if that is not meant.")
-                                  .arg(who, min.trimmed(), max.trimmed())));
+                                  .arg(action == 0 ? whoIn(0) : whoIn(action) + QStringLiteral("'s"), min.trimmed(),
+                                       max.trimmed())));
 }
 
 void checkRuleDevices(std::vector<CFinding>& out, const CEvent& rule, const CFinding& place)
 {
-    Problems problems;
     const CMainConfig& c = gMainConfig;
-    const QString source = QStringLiteral("source");
+    Problems problems;
     const qint16 src = rule.m_iSource;
     switch (rule.m_iSourceType) {
     case 1:
-        problems.Device(source, QStringLiteral("m_iSource"), QStringLiteral("exoskeleton"), src,
-                     std::min<int>(c.m_iNExos, 2));
-        problems.Item(source, QStringLiteral("m_iItem"), QStringLiteral("suit item"), rule.m_iItem, 37);
+        problems.Device(0, "m_iSource", "exoskeleton", src, std::min<int>(c.m_iNExos, 2));
+        problems.Item(0, "m_iItem", "suit item", rule.m_iItem, 37);
         break;
     case 2:
-        problems.Device(source, QStringLiteral("m_iSource"), QStringLiteral("joystick"), src,
-                     std::min<int>(c.m_iNTotems, 4));
+        problems.Device(0, "m_iSource", "joystick", src, std::min<int>(c.m_iNTotems, 4));
         if (src >= 0 && src < std::min<int>(c.m_iNTotems, 4))
-            problems.Item(source, QStringLiteral("m_iItem"), QStringLiteral("axis or button item"), rule.m_iItem,
-                       gTotemAxes(src) + gTotemButtons(src));
+            problems.Item(0, "m_iItem", "axis or button item", rule.m_iItem, gTotemAxes(src) + gTotemButtons(src));
         break;
     case 3:
         // The number of players itself stands for all players.
-        problems.Device(source, QStringLiteral("m_iSource"), QStringLiteral("Flash player"), src,
-                     std::min<int>(c.m_iNFlash, 16) + 1);
+        problems.Device(0, "m_iSource", "Flash player", src, std::min<int>(c.m_iNFlash, 16) + 1);
         break;
     case 5:
-        problems.Device(source, QStringLiteral("m_iSource"), QStringLiteral("digital IO card"), src,
-                     std::min<int>(gNDigitalIO, 4));
+        problems.Device(0, "m_iSource", "digital IO card", src, std::min<int>(gNDigitalIO, 4));
         if (src >= 0 && src < std::min<int>(gNDigitalIO, 4))
-            problems.Item(source, QStringLiteral("m_iItem"), QStringLiteral("input"), rule.m_iItem,
-                       gDigitalIONIn(src));
+            problems.Item(0, "m_iItem", "input", rule.m_iItem, gDigitalIONIn(src));
         break;
     case 6:
-        problems.Device(source, QStringLiteral("m_iSource"), QStringLiteral("MIDI device"), src,
-                     std::min<int>(c.m_iNMIDIs, 8));
+        problems.Device(0, "m_iSource", "MIDI device", src, std::min<int>(c.m_iNMIDIs, 8));
         break;
     case 7:
-        problems.Device(source, QStringLiteral("m_iSource"), QStringLiteral("Arduino"), src,
-                     std::min<int>(c.m_iNArduinos, 16));
+        problems.Device(0, "m_iSource", "Arduino", src, std::min<int>(c.m_iNArduinos, 16));
         if (src >= 0 && src < std::min<int>(c.m_iNArduinos, 16)) {
             const CArduinoData& a = gArduinoData(src);
-            problems.Item(source, QStringLiteral("m_iItem"), QStringLiteral("pin"), rule.m_iItem,
-                       a.m_iNumAnalogInputs + a.m_iNumDigitalIOs);
+            problems.Item(0, "m_iItem", "pin", rule.m_iItem, a.m_iNumAnalogInputs + a.m_iNumDigitalIOs);
         }
         break;
     case 8:
-        problems.Device(source, QStringLiteral("m_iSource"), QStringLiteral("OSC connection"), src,
-                     std::min<int>(c.m_iNOSCs, 16));
+        problems.Device(0, "m_iSource", "OSC connection", src, std::min<int>(c.m_iNOSCs, 16));
         break;
     default:
         break;
     }
-    checkRange(out, place, QStringLiteral("source"), QStringLiteral("m_strMin"), rule.m_strMin, rule.m_strMax);
-    if (!rule.m_MsgOut) {
-        problems.Report(out, place);
-        return;
-    }
+    checkRange(out, place, 0, rule.m_strMin, rule.m_strMax);
     int n = 0;
-    for (const auto& action : *rule.m_MsgOut) {
-        ++n;
-        const QString who = QStringLiteral("action ") + QString::number(n);
-        const QString field = QStringLiteral("m_MsgOut(") + QString::number(n) + QStringLiteral(").m_iTarget");
-        const qint16 t = action->m_iTarget;
-        switch (action->m_iTargetType) {
-        case 3:
-            problems.Device(who, field, QStringLiteral("Flash player"), t, std::min<int>(c.m_iNFlash, 16) + 1);
-            break;
-        case 6:
-            problems.Device(who, field, QStringLiteral("MIDI device"), t, std::min<int>(c.m_iNMIDIs, 8));
-            break;
-        case 7:
-            problems.Device(who, field, QStringLiteral("Arduino"), t, std::min<int>(c.m_iNArduinos, 16));
-            if (t >= 0 && t < std::min<int>(c.m_iNArduinos, 16)) {
-                const CArduinoData& a = gArduinoData(t);
-                problems.Item(who, QStringLiteral("m_MsgOut(%1).m_iCommand").arg(n), QStringLiteral("pin"),
-                           action->m_iCommand, a.m_iNumAnalogInputs + a.m_iNumDigitalIOs);
+    if (rule.m_MsgOut)
+        for (const auto& action : *rule.m_MsgOut) {
+            ++n;
+            const qint16 t = action->m_iTarget;
+            switch (action->m_iTargetType) {
+            case 3:
+                problems.Device(n, "m_iTarget", "Flash player", t, std::min<int>(c.m_iNFlash, 16) + 1);
+                break;
+            case 6:
+                problems.Device(n, "m_iTarget", "MIDI device", t, std::min<int>(c.m_iNMIDIs, 8));
+                break;
+            case 7:
+                problems.Device(n, "m_iTarget", "Arduino", t, std::min<int>(c.m_iNArduinos, 16));
+                if (t >= 0 && t < std::min<int>(c.m_iNArduinos, 16)) {
+                    const CArduinoData& a = gArduinoData(t);
+                    problems.Item(n, "m_iCommand", "pin", action->m_iCommand, a.m_iNumAnalogInputs + a.m_iNumDigitalIOs);
+                }
+                break;
+            case 8:
+                problems.Device(n, "m_iTarget", "OSC connection", t, std::min<int>(c.m_iNOSCs, 16));
+                break;
+            case 9:
+                // "Switch Player To App": the command is the display manager, the
+                // manager count itself stands for all of them; the first value the application.
+                if (t == 2) {
+                    const int managers = std::min<int>(c.m_iNQDMs, 8);
+                    problems.Device(n, "m_iCommand", "display manager", action->m_iCommand, managers + 1);
+                    double app = 0;
+                    if (action->m_iCommand >= 0 && action->m_iCommand < managers && numberIn(action->m_strVal1, app))
+                        problems.Item(n, "m_strVal1", "video application", static_cast<int>(app),
+                                      std::min<int>(c.m_iNAppPerQDM(action->m_iCommand), 8));
+                }
+                break;
+            case 10:
+                problems.Device(n, "m_iTarget", "capture device", t, std::min<int>(c.m_iNVideoCaps, 4));
+                break;
+            default:
+                break;
             }
-            break;
-        case 8:
-            problems.Device(who, field, QStringLiteral("OSC connection"), t, std::min<int>(c.m_iNOSCs, 16));
-            break;
-        case 9:
-            // "Switch Player To App": the command is the display manager, the
-            // manager count itself stands for all of them; the first value the application.
-            if (t == 2) {
-                const int managers = std::min<int>(c.m_iNQDMs, 8);
-                problems.Device(who, QStringLiteral("m_MsgOut(%1).m_iCommand").arg(n),
-                             QStringLiteral("display manager"), action->m_iCommand, managers + 1);
-                double app = 0;
-                if (action->m_iCommand >= 0 && action->m_iCommand < managers && numberIn(action->m_strVal1, app))
-                    problems.Item(who, QStringLiteral("m_MsgOut(%1).m_strVal1").arg(n),
-                               QStringLiteral("video application"), static_cast<int>(app),
-                               std::min<int>(c.m_iNAppPerQDM(action->m_iCommand), 8));
-            }
-            break;
-        case 10:
-            problems.Device(who, field, QStringLiteral("capture device"), t, std::min<int>(c.m_iNVideoCaps, 4));
-            break;
-        default:
-            break;
+            checkRange(out, place, n, action->m_strMin, action->m_strMax);
         }
-        if (!action->m_strMin.isEmpty() && !action->m_strMax.isEmpty())
-            checkRange(out, place, who + QStringLiteral("'s"), QStringLiteral("m_MsgOut(%1).m_strMin").arg(n),
-                       action->m_strMin, action->m_strMax);
-    }
     problems.Report(out, place);
 }
 
