@@ -7,6 +7,7 @@ PACKAGES=(
   g++ cmake ninja-build pkg-config
   qt6-base-dev qt6-serialport-dev libgl-dev
   xvfb xauth fonts-dejavu-core poppler-utils
+  desktop-file-utils appstream
 )
 
 missing=()

@@ -115,6 +115,7 @@ void FormInitial::buildMenus()
     Save = entry(File, QStringLiteral("Save"), QStringLiteral("&Save"));
     SaveAs = entry(File, QStringLiteral("SaveAs"), QStringLiteral("Save &As"));
     Print = entry(File, QStringLiteral("Print"), QStringLiteral("&Print"));
+    CheckPerformance = entry(File, QStringLiteral("CheckPerformance"), QStringLiteral("&Check Performance..."));
     File->addSeparator();
     Quit = entry(File, QStringLiteral("Quit"), QStringLiteral("&Quit"));
     Edit = menu(nullptr, QStringLiteral("Edit"), QStringLiteral("&Edit"));
@@ -313,6 +314,7 @@ void FormInitial::connectHandlers()
     for (int i = 0; i < CheckTarget.size(); ++i)
         connect(CheckTarget[i], &QCheckBox::clicked, this, [this, i] { CheckTarget_Click(i); });
     connect(DigitalIO, &QAction::triggered, this, &FormInitial::DigitalIO_Click);
+    connect(CheckPerformance, &QAction::triggered, this, &FormInitial::CheckPerformance_Click);
 }
 // ---------------------------------------------------------------- start
 

@@ -31,6 +31,7 @@ public:
     QAction* Save;
     QAction* SaveAs;
     QAction* Print;
+    QAction* CheckPerformance;     // runs the check of the performance and shows its findings
     QAction* Quit;
     QMenu* Edit;
     QAction* Cut;
@@ -127,6 +128,7 @@ public:
     void TheName_Click();
     void Components_Click();
     void About_Click();
+    void CheckPerformance_Click();
 
     // Copies the title of the performance into TextName.
     void ShowMainCfg();

@@ -6,8 +6,23 @@
 #include <QMessageBox>
 #include <QStringList>
 
+namespace {
+MessageCapture* gCapture = nullptr;
+}
+
+MessageCapture::MessageCapture() : m_outer(gCapture) { gCapture = this; }
+MessageCapture::~MessageCapture() { gCapture = m_outer; }
+
 MsgAnswer MsgBox(const QString& text, MsgButtons buttons, MsgIcon icon, const QString& title)
 {
+    if (gCapture) {
+        gCapture->texts << text;
+        switch (buttons) {
+        case MsgButtons::OK: return MsgAnswer::OK;
+        case MsgButtons::YesNo: return MsgAnswer::No;
+        default: return MsgAnswer::Cancel;
+        }
+    }
     QMessageBox box(QApplication::activeWindow());
     box.setObjectName(QStringLiteral("MsgBox"));
     box.setWindowTitle(title);

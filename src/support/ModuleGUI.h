@@ -2,6 +2,7 @@
 // The small user-interface runtime: message boxes, the open and save file
 // dialogs, letting the event queue run, and a millisecond tick count.
 #include <QString>
+#include <QStringList>
 #include <QtGlobal>
 
 class QWidget;
@@ -17,6 +18,20 @@ inline const QString kAppTitle = QStringLiteral("QEL Setup");
 // Closing the box with Escape answers Cancel where there is one, else No, else OK.
 MsgAnswer MsgBox(const QString& text, MsgButtons buttons = MsgButtons::OK,
                  MsgIcon icon = MsgIcon::None, const QString& title = kAppTitle);
+
+// While one lives, message boxes are not shown: their texts are gathered in
+// `texts` and each box answers as if closed with Escape. For work that runs the
+// readers without a person watching, such as the check of a performance.
+class MessageCapture {
+public:
+    MessageCapture();
+    ~MessageCapture();
+    MessageCapture(const MessageCapture&) = delete;
+    MessageCapture& operator=(const MessageCapture&) = delete;
+    QStringList texts;
+private:
+    MessageCapture* m_outer;
+};
 
 // The usual validation message: title "QEL Setup", exclamation icon, OK.
 void MsgBoxExclamation(const QString& text);

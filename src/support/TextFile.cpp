@@ -65,6 +65,13 @@ TextFileReader::TextFileReader(const QString& path)
     m_data = file.readAll();
 }
 
+TextFileReader TextFileReader::FromBytes(const QByteArray& data)
+{
+    TextFileReader reader;
+    reader.m_data = data;
+    return reader;
+}
+
 QString TextFileReader::LineInput()
 {
     if (AtEnd())

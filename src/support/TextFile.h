@@ -34,6 +34,8 @@ class TextFileReader {
 public:
     // Opens an existing file for reading; raises FileError if it cannot.
     explicit TextFileReader(const QString& path);
+    // Reads lines from bytes already in memory, as they would be on disk.
+    static TextFileReader FromBytes(const QByteArray& data);
     // Reads the next line without its line end; raises FileError at the end of the file.
     QString LineInput();
     // True when nothing is left to read.
@@ -41,6 +43,7 @@ public:
     void Close() { m_data.clear(); m_pos = 0; }
 
 private:
+    TextFileReader() = default;
     QByteArray m_data;
     qsizetype m_pos = 0;
 };
