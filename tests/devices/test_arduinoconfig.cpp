@@ -39,8 +39,6 @@ T* control(QWidget* form, const QString& name)
     return DialogDriver::find<T>(form, name);
 }
 
-constexpr int px(int twips) { return twips / 15; }
-
 // The digital rows of a board with every connection an input.
 QByteArray inputRows(int from, int to)
 {
@@ -166,9 +164,9 @@ private slots:
         QCOMPARE(control<QLabel>(&form, "LabelAnalogIn")->text(), QStringLiteral("#Analog Inputs:"));
         QCOMPARE(control<QLabel>(&form, "LabelDigitalIO")->text(), QStringLiteral("#Digital I/O:"));
         // OK and Cancel follow the last row; the form ends under them.
-        QCOMPARE(form.CommandOK->y(), px(3 * 480 + 1050));
-        QCOMPARE(form.CommandCancel->y(), px(3 * 480 + 1050));
-        QCOMPARE(form.height(), px(3 * 480 + 2000));
+        QCOMPARE(form.CommandOK->y(), Twips(3 * 480 + 1050));
+        QCOMPARE(form.CommandCancel->y(), Twips(3 * 480 + 1050));
+        QCOMPARE(form.height(), Twips(3 * 480 + 2000));
         // The row after the last stays out of view.
         QVERIFY(control(&form, "TextLabel(3)")->isHidden());
         QVERIFY(gArduinoData(2).m_iNumAnalogInputs == 32 && gArduinoData(2).m_iNumDigitalIOs == 96);
