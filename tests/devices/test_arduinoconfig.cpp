@@ -87,6 +87,24 @@ private slots:
         QCOMPARE(shown.icon, QMessageBox::Warning);
     }
 
+    void aCountListWithNoEntryChosenSaysThereAreNoBoards()
+    {
+        session.start();
+        // A performance whose board count lies beyond the list leaves no entry chosen.
+        gMainConfig.m_iNArduinos = 17;
+        session.form->ShowDeviceCounts();
+        QCOMPARE(session.form->ComboNArduinos->currentIndex(), -1);
+        DialogDriver driver;
+        Shown shown;
+        driver.next(record(shown));
+        DialogDriver::click(session.form.get(), QStringLiteral("ArduinoConfig"));
+        QVERIFY2(driver.finished(), qPrintable(driver.error()));
+        QCOMPARE(driver.seen().size(), 1);
+        QCOMPARE(shown.text, QStringLiteral("No Arduinos!"));
+        QCOMPARE(shown.title, QStringLiteral("QEL Setup"));
+        QCOMPARE(shown.icon, QMessageBox::Warning);
+    }
+
     void theButtonOpensTheDialogWithARowForEachBoardOfTheCount()
     {
         session.start();
