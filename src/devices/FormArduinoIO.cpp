@@ -61,6 +61,7 @@ FormArduinoIO::FormArduinoIO(QWidget* owner) : QDialog(owner)
 {
     setObjectName(QStringLiteral("FormArduinoIO"));
     setWindowTitle(QStringLiteral("Arduino IO Configuration"));
+    KeepControlOrder(this);
 
     LabelAnalogInputs = designLabel(this, "LabelAnalogInputs", "Analog Inputs", 240, 700, kRowLabelWidth);
     LabelDigitalIOs = designLabel(this, "LabelDigitalIOs", "Digital IOs", 4200, 300, kRowLabelWidth);

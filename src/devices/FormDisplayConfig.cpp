@@ -63,6 +63,7 @@ FormDisplayConfig::FormDisplayConfig(QWidget* owner) : QDialog(owner)
 {
     setObjectName(QStringLiteral("FormDisplayConfig"));
     setWindowTitle(QStringLiteral("QEL Display Manager Configuration"));
+    KeepControlOrder(this);
 
     Frame1 = named(new QGroupBox(QStringLiteral("FrameHead"), this), QStringLiteral("Frame1"));
     Frame1->setGeometry(0, 0, Twips(columnLeft(kManagers)), Twips(kHeadHeight));
