@@ -1,9 +1,11 @@
 #include "devices/DeviceRows.h"
 #include <QButtonGroup>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QRadioButton>
 #include "support/Controls.h"
 
@@ -40,6 +42,16 @@ QLineEdit* ControlRow::text(const QString& name, int left, int width)
 QCheckBox* ControlRow::check(const QString& name, const QString& caption, int left, int width)
 {
     return add(new QCheckBox(caption, m_form), name, left, width);
+}
+
+QComboBox* ControlRow::combo(const QString& name, int left, int width)
+{
+    return add(new QComboBox(m_form), name, left, width);
+}
+
+QPushButton* ControlRow::button(const QString& name, const QString& caption, int left, int width)
+{
+    return add(new QPushButton(caption, m_form), name, left, width);
 }
 
 InOutButtons ControlRow::inOut(const QString& frame, int left, int width)

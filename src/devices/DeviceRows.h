@@ -5,17 +5,18 @@
 // positions are.
 #include <QList>
 #include <QString>
+#include "support/Controls.h"
 #include "support/RuntimeError.h"
 
 class QButtonGroup;
 class QCheckBox;
+class QComboBox;
 class QGroupBox;
 class QLabel;
 class QLineEdit;
+class QPushButton;
 class QRadioButton;
 class QWidget;
-
-constexpr int Twips(int t) { return t / 15; }
 
 // Element i of a control array; an index outside the array is a range error.
 template <typename T>
@@ -43,6 +44,8 @@ public:
     QLabel* label(const QString& name, const QString& caption, int left, int width);
     QLineEdit* text(const QString& name, int left, int width);
     QCheckBox* check(const QString& name, const QString& caption, int left, int width);
+    QComboBox* combo(const QString& name, int left, int width);
+    QPushButton* button(const QString& name, const QString& caption, int left, int width);
     // A frame named `frame`(i) holding the option buttons optIn(i) and optOut(i);
     // with an empty frame name the buttons stand on the form itself.
     InOutButtons inOut(const QString& frame, int left, int width);

@@ -4,7 +4,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include "devices/FormArduinoIO.h"
-#include "devices/ModuleDeviceRows.h"
+#include "devices/DeviceRows.h"
 #include "model/CArduinoData.h"
 #include "model/CMainConfig.h"
 #include "model/ModuleGlobals.h"
@@ -15,6 +15,11 @@
 #include "support/OnError.h"
 
 namespace {
+
+// Row i stands 480 twips below row i - 1, under the column heads.
+constexpr int kColumnHeadTop = 240;
+constexpr int kRowHeight = 315;
+constexpr int RowTop(int row) { return 600 + row * 480; }
 
 // Columns, in twips: left edge and width.
 constexpr int kLabelLeft = 240, kLabelWidth = 1200;
@@ -28,8 +33,7 @@ constexpr int kFormWidth = 9500;
 QLabel* columnHead(QWidget* form, const char* name, const char* caption, int left, int width)
 {
     auto* head = named(new QLabel(QString::fromLatin1(caption), form), QString::fromLatin1(name));
-    head->setGeometry(TwipsToPixels(left), TwipsToPixels(kColumnHeadTop), TwipsToPixels(width),
-                      TwipsToPixels(kRowHeight));
+    PlaceTwips(head, left, kColumnHeadTop, width, kRowHeight);
     return head;
 }
 
@@ -46,27 +50,27 @@ FormArduinoConfig::FormArduinoConfig(QWidget* owner) : QDialog(owner)
     LabelDigitalIO = columnHead(this, "LabelDigitalIO", "#Digital I/O:", kDigitalLeft, kDigitalWidth);
 
     for (int i = 0; i <= 15; ++i) {
-        Label(i) = RowControl<QLabel>(this, QStringLiteral("Label"), i, kLabelLeft, kLabelWidth);
-        Label(i)->setText(QStringLiteral("Arduino ") + QString::number(i + 1) + QStringLiteral(":"));
-        TextLabel(i) = RowControl<QLineEdit>(this, QStringLiteral("TextLabel"), i, kTextLabelLeft, kTextLabelWidth);
-        TextCOMPort(i) = RowControl<QLineEdit>(this, QStringLiteral("TextCOMPort"), i, kCOMPortLeft, kCOMPortWidth);
-        NumberAnalogIn(i) = RowControl<QComboBox>(this, QStringLiteral("NumberAnalogIn"), i, kAnalogLeft, kAnalogWidth);
-        NumberDigitalIO(i) = RowControl<QComboBox>(this, QStringLiteral("NumberDigitalIO"), i, kDigitalLeft, kDigitalWidth);
-        ArduinoInOutConf(i) = RowControl<QPushButton>(this, QStringLiteral("ArduinoInOutConf"), i, kIOLeft, kIOWidth);
-        ArduinoInOutConf(i)->setText(QStringLiteral("I/O Config"));
+        ControlRow row(this, i, RowTop(i));
+        Label(i) = row.label(QStringLiteral("Label"), QStringLiteral("Arduino ") + QString::number(i + 1) + QStringLiteral(":"),
+                             kLabelLeft, kLabelWidth);
+        TextLabel(i) = row.text(QStringLiteral("TextLabel"), kTextLabelLeft, kTextLabelWidth);
+        TextCOMPort(i) = row.text(QStringLiteral("TextCOMPort"), kCOMPortLeft, kCOMPortWidth);
+        NumberAnalogIn(i) = row.combo(QStringLiteral("NumberAnalogIn"), kAnalogLeft, kAnalogWidth);
+        NumberDigitalIO(i) = row.combo(QStringLiteral("NumberDigitalIO"), kDigitalLeft, kDigitalWidth);
+        ArduinoInOutConf(i) = row.button(QStringLiteral("ArduinoInOutConf"), QStringLiteral("I/O Config"), kIOLeft, kIOWidth);
+        // Rows come into view only for the boards in use.
+        row.setVisible(false);
         connect(ArduinoInOutConf(i), &QPushButton::clicked, this, [this, i] { ArduinoInOutConf_Click(i); });
     }
 
     CommandOK = named(new QPushButton(QStringLiteral("OK"), this), QStringLiteral("CommandOK"));
-    CommandOK->setGeometry(TwipsToPixels(kFormWidth / 2 - 1500), TwipsToPixels(RowTop(16)), TwipsToPixels(1200),
-                           TwipsToPixels(375));
+    PlaceTwips(CommandOK, kFormWidth / 2 - 1500, RowTop(16), 1200, 375);
     CommandCancel = named(new QPushButton(QStringLiteral("Cancel"), this), QStringLiteral("CommandCancel"));
-    CommandCancel->setGeometry(TwipsToPixels(kFormWidth / 2 + 300), TwipsToPixels(RowTop(16)), TwipsToPixels(1200),
-                               TwipsToPixels(375));
+    PlaceTwips(CommandCancel, kFormWidth / 2 + 300, RowTop(16), 1200, 375);
     connect(CommandOK, &QPushButton::clicked, this, &FormArduinoConfig::CommandOK_Click);
     connect(CommandCancel, &QPushButton::clicked, this, &FormArduinoConfig::CommandCancel_Click);
 
-    resize(TwipsToPixels(kFormWidth), TwipsToPixels(RowTop(16) + 1000));
+    resize(Twips(kFormWidth), Twips(RowTop(16) + 1000));
 }
 
 void FormArduinoConfig::setVisible(bool visible)
@@ -107,7 +111,10 @@ void FormArduinoConfig::Form_Load()
         Skip([&] { NumberDigitalIO(i)->setCurrentIndex(10); });
         Skip([&] { NumberDigitalIO(i)->setEnabled(false); });
     }
-    FitFormToRows(this, iNumArduinos, CommandOK, CommandCancel);
+    // The rows beyond the count are cut off from view by the foot of the form.
+    CommandOK->move(CommandOK->x(), Twips(iNumArduinos * 480 + 1050));
+    CommandCancel->move(CommandCancel->x(), Twips(iNumArduinos * 480 + 1050));
+    resize(width(), Twips(iNumArduinos * 480 + 2000));
 }
 
 void FormArduinoConfig::ArduinoInOutConf_Click(int index)

@@ -5,7 +5,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QResizeEvent>
-#include "devices/ModuleDeviceRows.h"
 #include "devices/ModuleScrollBar.h"
 #include "model/CArduinoData.h"
 #include "model/CMainConfig.h"
@@ -32,14 +31,14 @@ const QColor kRowColour(0xE0, 0xE0, 0xE0);
 QLabel* designLabel(QWidget* form, const char* name, const char* caption, int left, int top, int width)
 {
     auto* label = named(new QLabel(QString::fromLatin1(caption), form), QString::fromLatin1(name));
-    label->setGeometry(TwipsToPixels(left), TwipsToPixels(top), TwipsToPixels(width), TwipsToPixels(kRowLabelHeight));
+    label->setGeometry(Twips(left), Twips(top), Twips(width), Twips(kRowLabelHeight));
     return label;
 }
 
 QLabel* rowLabel(QWidget* form, const QString& name, const QString& caption, int left, int top)
 {
     auto* label = named(new QLabel(caption, form), name);
-    label->setGeometry(left, TwipsToPixels(top), TwipsToPixels(kRowLabelWidth), TwipsToPixels(kRowLabelHeight));
+    label->setGeometry(left, Twips(top), Twips(kRowLabelWidth), Twips(kRowLabelHeight));
     label->setAutoFillBackground(true);
     QPalette palette = label->palette();
     palette.setColor(QPalette::Window, kRowColour);
@@ -62,6 +61,7 @@ FormArduinoIO::FormArduinoIO(QWidget* owner) : QDialog(owner)
 {
     setObjectName(QStringLiteral("FormArduinoIO"));
     setWindowTitle(QStringLiteral("Arduino IO Configuration"));
+    KeepControlOrder(this);
 
     LabelAnalogInputs = designLabel(this, "LabelAnalogInputs", "Analog Inputs", 240, 700, kRowLabelWidth);
     LabelDigitalIOs = designLabel(this, "LabelDigitalIOs", "Digital IOs", 4200, 300, kRowLabelWidth);
@@ -69,16 +69,16 @@ FormArduinoIO::FormArduinoIO(QWidget* owner) : QDialog(owner)
     LabelMax = designLabel(this, "LabelMax", "Max", 2850, 700, 750);
 
     FrameOKCancel = named(new QGroupBox(QStringLiteral("FrameOK"), this), QStringLiteral("FrameOKCancel"));
-    FrameOKCancel->setGeometry(0, TwipsToPixels(kFormHeight - 600), TwipsToPixels(kFormWidth), TwipsToPixels(600));
+    FrameOKCancel->setGeometry(0, Twips(kFormHeight - 600), Twips(kFormWidth), Twips(600));
     DrawWithoutCaption(FrameOKCancel);
     CommandOK = named(new QPushButton(QStringLiteral("OK"), FrameOKCancel), QStringLiteral("CommandOK"));
-    CommandOK->setGeometry(TwipsToPixels(2400), TwipsToPixels(110), TwipsToPixels(1200), TwipsToPixels(375));
+    CommandOK->setGeometry(Twips(2400), Twips(110), Twips(1200), Twips(375));
     CommandCancel = named(new QPushButton(QStringLiteral("Cancel"), FrameOKCancel), QStringLiteral("CommandCancel"));
-    CommandCancel->setGeometry(TwipsToPixels(4200), TwipsToPixels(110), TwipsToPixels(1200), TwipsToPixels(375));
+    CommandCancel->setGeometry(Twips(4200), Twips(110), Twips(1200), Twips(375));
     connect(CommandOK, &QPushButton::clicked, this, &FormArduinoIO::CommandOK_Click);
     connect(CommandCancel, &QPushButton::clicked, this, &FormArduinoIO::CommandCancel_Click);
 
-    resize(TwipsToPixels(kFormWidth), TwipsToPixels(kFormHeight));
+    resize(Twips(kFormWidth), Twips(kFormHeight));
 }
 
 void FormArduinoIO::setVisible(bool visible)
@@ -110,11 +110,11 @@ void FormArduinoIO::Form_Load()
             label = rowLabel(this, QStringLiteral("AnalogInput") + n, QStringLiteral("Analog Input ") + n,
                              LabelAnalogInputs->x(), top);
             min = named(new QLineEdit(this), QStringLiteral("TxtMin") + n);
-            min->setGeometry(LabelMin->x(), TwipsToPixels(top), LabelMin->width(), TwipsToPixels(kTextHeight));
+            min->setGeometry(LabelMin->x(), Twips(top), LabelMin->width(), Twips(kTextHeight));
             min->setText(QString::number(board.m_iMin(i)));
             min->setVisible(true);
             max = named(new QLineEdit(this), QStringLiteral("TxtMax") + n);
-            max->setGeometry(LabelMax->x(), TwipsToPixels(top), LabelMax->width(), TwipsToPixels(kTextHeight));
+            max->setGeometry(LabelMax->x(), Twips(top), LabelMax->width(), Twips(kTextHeight));
             max->setText(QString::number(board.m_iMax(i)));
             max->setVisible(true);
         }
@@ -126,8 +126,8 @@ void FormArduinoIO::Form_Load()
             label = rowLabel(this, QStringLiteral("DigitalIO") + n, QStringLiteral("Digital IO ") + n,
                              LabelDigitalIOs->x(), top);
             combo = named(new QComboBox(this), QStringLiteral("ComboDigital") + n);
-            combo->setGeometry(label->x() + label->width() + TwipsToPixels(kComboGap), TwipsToPixels(top),
-                               TwipsToPixels(kComboWidth), TwipsToPixels(kComboHeight));
+            combo->setGeometry(label->x() + label->width() + Twips(kComboGap), Twips(top),
+                               Twips(kComboWidth), Twips(kComboHeight));
             combo->addItems({QStringLiteral("PWM"), QStringLiteral("IN"), QStringLiteral("OUT")});
             // The list index of the entry is the stored direction.
             combo->setCurrentIndex(board.m_iDigitalType(i));

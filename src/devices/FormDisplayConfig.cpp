@@ -6,7 +6,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QResizeEvent>
-#include "devices/ModuleDeviceRows.h"
 #include "devices/ModuleScrollBar.h"
 #include "model/CMainConfig.h"
 #include "model/ModuleGlobals.h"
@@ -40,7 +39,7 @@ template <typename W>
 W* gridControl(QWidget* form, const QString& name, int left, int top, int width, int height)
 {
     auto* control = named(new W(form), name);
-    control->setGeometry(TwipsToPixels(left), TwipsToPixels(top), TwipsToPixels(width), TwipsToPixels(height));
+    control->setGeometry(Twips(left), Twips(top), Twips(width), Twips(height));
     return control;
 }
 
@@ -64,14 +63,15 @@ FormDisplayConfig::FormDisplayConfig(QWidget* owner) : QDialog(owner)
 {
     setObjectName(QStringLiteral("FormDisplayConfig"));
     setWindowTitle(QStringLiteral("QEL Display Manager Configuration"));
+    KeepControlOrder(this);
 
     Frame1 = named(new QGroupBox(QStringLiteral("FrameHead"), this), QStringLiteral("Frame1"));
-    Frame1->setGeometry(0, 0, TwipsToPixels(columnLeft(kManagers)), TwipsToPixels(kHeadHeight));
+    Frame1->setGeometry(0, 0, Twips(columnLeft(kManagers)), Twips(kHeadHeight));
     DrawWithoutCaption(Frame1);
     LabelQDMPort = named(new QLabel(QStringLiteral("QDM Port:"), Frame1), QStringLiteral("LabelQDMPort"));
-    LabelQDMPort->setGeometry(TwipsToPixels(120), TwipsToPixels(180), TwipsToPixels(1050), TwipsToPixels(kCaptionHeight));
+    LabelQDMPort->setGeometry(Twips(120), Twips(180), Twips(1050), Twips(kCaptionHeight));
     TextQDMPort = named(new QLineEdit(QStringLiteral("1111"), Frame1), QStringLiteral("TextQDMPort"));
-    TextQDMPort->setGeometry(TwipsToPixels(1200), TwipsToPixels(135), TwipsToPixels(1200), TwipsToPixels(kTextHeight));
+    TextQDMPort->setGeometry(Twips(1200), Twips(135), Twips(1200), Twips(kTextHeight));
 
     // Until the form loads, the count and copy controls wait hidden in the first column.
     for (int i = 0; i < kManagers; ++i) {
@@ -88,17 +88,17 @@ FormDisplayConfig::FormDisplayConfig(QWidget* owner) : QDialog(owner)
     }
 
     FrameOKCancel = named(new QGroupBox(QStringLiteral("FrameOK"), this), QStringLiteral("FrameOKCancel"));
-    FrameOKCancel->setGeometry(0, TwipsToPixels(kFormHeight - kFootHeight), TwipsToPixels(kFormWidth),
-                               TwipsToPixels(kFootHeight));
+    FrameOKCancel->setGeometry(0, Twips(kFormHeight - kFootHeight), Twips(kFormWidth),
+                               Twips(kFootHeight));
     DrawWithoutCaption(FrameOKCancel);
     CommandOK = named(new QPushButton(QStringLiteral("OK"), FrameOKCancel), QStringLiteral("CommandOK"));
-    CommandOK->setGeometry(TwipsToPixels(120), TwipsToPixels(120), TwipsToPixels(1350), TwipsToPixels(420));
+    CommandOK->setGeometry(Twips(120), Twips(120), Twips(1350), Twips(420));
     CommandCancel = named(new QPushButton(QStringLiteral("Cancel"), FrameOKCancel), QStringLiteral("CommandCancel"));
-    CommandCancel->setGeometry(TwipsToPixels(1590), TwipsToPixels(120), TwipsToPixels(1350), TwipsToPixels(420));
+    CommandCancel->setGeometry(Twips(1590), Twips(120), Twips(1350), Twips(420));
     connect(CommandOK, &QPushButton::clicked, this, &FormDisplayConfig::CommandOK_Click);
     connect(CommandCancel, &QPushButton::clicked, this, &FormDisplayConfig::CommandCancel_Click);
 
-    resize(TwipsToPixels(kFormWidth), TwipsToPixels(kFormHeight));
+    resize(Twips(kFormWidth), Twips(kFormHeight));
 }
 
 void FormDisplayConfig::setVisible(bool visible)
@@ -156,13 +156,13 @@ void FormDisplayConfig::makeColumn(int i)
         VideoAppLaunchLabel(i, j)->setText(QStringLiteral("Launch on startup"));
     }
     QComboBox* count = comboNumApps(i);
-    count->move(TwipsToPixels(left + kColumnWidth - kCountWidth), count->y());
+    count->move(Twips(left + kColumnWidth - kCountWidth), count->y());
     for (int k = 0; k <= kApplications; ++k)
         count->addItem(QString::number(k));
     Skip([&] { count->setCurrentIndex(gMainConfig.m_iNAppPerQDM(i)); });
     count->show();
     QPushButton* copy = CommandCopyConfig(i);
-    copy->move(TwipsToPixels(left), copy->y());
+    copy->move(Twips(left), copy->y());
     copy->setVisible(iNumQDMs > 1);
     showApplications(i);
 }

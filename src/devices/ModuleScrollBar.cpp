@@ -1,17 +1,20 @@
 #include "devices/ModuleScrollBar.h"
 #include <QAbstractButton>
 #include <QCheckBox>
+#include <QChildEvent>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QStatusBar>
 #include <QTreeWidget>
+#include <QVariant>
 #include "support/RuntimeError.h"
 
 QString TypeName(const QWidget* control)
@@ -70,9 +73,53 @@ QString DefaultText(const QWidget* control)
 
 namespace {
 
+const char* const kControlOrder = "controlOrder";
+
+// The children of a form in the order they were added. Qt keeps its children
+// in stacking order, which raise() changes.
+class ControlOrder : public QObject {
+public:
+    explicit ControlOrder(QWidget* form) : QObject(form) { form->installEventFilter(this); }
+
+    QList<QObject*> children() const
+    {
+        QList<QObject*> alive;
+        for (const auto& child : m_children)
+            if (child)
+                alive << child.data();
+        return alive;
+    }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::ChildAdded && watched == parent())
+            m_children << static_cast<QChildEvent*>(event)->child();
+        return false;
+    }
+
+private:
+    QList<QPointer<QObject>> m_children;
+};
+
+QList<QObject*> childrenInOrder(QWidget* parent)
+{
+    auto* order = dynamic_cast<ControlOrder*>(parent->property(kControlOrder).value<QObject*>());
+    if (!order)
+        return parent->children();
+    QList<QObject*> children;
+    for (QObject* child : order->children())
+        if (child->parent() == parent && !children.contains(child))
+            children << child;
+    for (QObject* child : parent->children())
+        if (!children.contains(child))
+            children << child;
+    return children;
+}
+
 void collect(QWidget* parent, QList<QWidget*>& out)
 {
-    for (QObject* child : parent->children()) {
+    for (QObject* child : childrenInOrder(parent)) {
         auto* w = qobject_cast<QWidget*>(child);
         if (!w || w->isWindow())
             continue;
@@ -83,6 +130,12 @@ void collect(QWidget* parent, QList<QWidget*>& out)
 }
 
 } // namespace
+
+void KeepControlOrder(QWidget* form)
+{
+    if (!form->property(kControlOrder).value<QObject*>())
+        form->setProperty(kControlOrder, QVariant::fromValue<QObject*>(new ControlOrder(form)));
+}
 
 QList<QWidget*> FormControls(QWidget* form)
 {

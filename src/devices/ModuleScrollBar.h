@@ -18,6 +18,11 @@ QString TypeName(const QWidget* control);
 // text raises a RuntimeError.
 QString DefaultText(const QWidget* control);
 
+// Makes `form` remember the order in which controls are added to it, so that
+// bringing a control to the front does not change the order of its control
+// collection. A form calls it before it makes its first control.
+void KeepControlOrder(QWidget* form);
+
 // The controls of a form in the order of its control collection: its child
 // widgets in the order they were added, each frame followed by its contents.
 // The inner parts of a control (a combo box's list, say) are not controls.

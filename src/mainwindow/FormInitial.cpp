@@ -42,9 +42,6 @@ bool bPanelLocked = false;
 
 namespace {
 
-// Sizes are given in twips, 15 to a pixel.
-constexpr int twips(int t) { return t / 15; }
-
 // A filter row: checked boxes, hidden until the rule view places and captions them.
 QList<QCheckBox*> filterChecks(QWidget* area, const QString& name, int count)
 {
@@ -92,7 +89,7 @@ FormInitial::FormInitial(QWidget* parent) : QMainWindow(parent)
     buildRuleView(area);
     buildDevicePanel(area);
     connectHandlers();
-    resize(twips(14400), twips(10775));
+    resize(Twips(14400), Twips(10775));
     layoutControls();
 }
 
@@ -344,7 +341,7 @@ void FormInitial::Form_Load()
     delete splash;
     InitExoSensorLabels();
     InitExoTypeNames();
-    resize(twips(14400), twips(10775));
+    resize(Twips(14400), Twips(10775));
     CommandUp->hide();
     CommandDown->hide();
 }
@@ -396,7 +393,7 @@ void FormInitial::layoutControls()
 {
     const int w = centralWidget()->width();
     const int h = centralWidget()->height();
-    const int right = twips(300), belowRules = twips(900), belowScenes = twips(1500);
+    const int right = Twips(300), belowRules = Twips(900), belowScenes = Twips(1500);
     const int left2 = 290;
 
     TextName->setGeometry(20, 8, w - 200, 32);

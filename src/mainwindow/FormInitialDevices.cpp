@@ -86,8 +86,11 @@ void FormInitial::ArduinoConfig_Click()
 {
     FormArduinoConfig dialog(this);
     dialog.iNumArduinos = static_cast<qint16>(ComboNArduinos->currentIndex());
-    if (!devicesToConfigure(dialog.iNumArduinos, "No Arduinos!"))
+    // Below 1: a count list with no entry chosen says "No Arduinos!" as well.
+    if (dialog.iNumArduinos < 1) {
+        MsgBoxExclamation(QStringLiteral("No Arduinos!"));
         return;
+    }
     runDeviceDialog(dialog);
 }
 

@@ -39,8 +39,6 @@ T* control(QWidget* form, const QString& name)
     return DialogDriver::find<T>(form, name);
 }
 
-constexpr int px(int twips) { return twips / 15; }
-
 // The digital rows of a board with every connection an input.
 QByteArray inputRows(int from, int to)
 {
@@ -78,6 +76,24 @@ private slots:
     {
         session.start();
         QCOMPARE(session.form->ComboNArduinos->currentIndex(), 0);
+        DialogDriver driver;
+        Shown shown;
+        driver.next(record(shown));
+        DialogDriver::click(session.form.get(), QStringLiteral("ArduinoConfig"));
+        QVERIFY2(driver.finished(), qPrintable(driver.error()));
+        QCOMPARE(driver.seen().size(), 1);
+        QCOMPARE(shown.text, QStringLiteral("No Arduinos!"));
+        QCOMPARE(shown.title, QStringLiteral("QEL Setup"));
+        QCOMPARE(shown.icon, QMessageBox::Warning);
+    }
+
+    void aCountListWithNoEntryChosenSaysThereAreNoBoards()
+    {
+        session.start();
+        // A performance whose board count lies beyond the list leaves no entry chosen.
+        gMainConfig.m_iNArduinos = 17;
+        session.form->ShowDeviceCounts();
+        QCOMPARE(session.form->ComboNArduinos->currentIndex(), -1);
         DialogDriver driver;
         Shown shown;
         driver.next(record(shown));
@@ -166,9 +182,9 @@ private slots:
         QCOMPARE(control<QLabel>(&form, "LabelAnalogIn")->text(), QStringLiteral("#Analog Inputs:"));
         QCOMPARE(control<QLabel>(&form, "LabelDigitalIO")->text(), QStringLiteral("#Digital I/O:"));
         // OK and Cancel follow the last row; the form ends under them.
-        QCOMPARE(form.CommandOK->y(), px(3 * 480 + 1050));
-        QCOMPARE(form.CommandCancel->y(), px(3 * 480 + 1050));
-        QCOMPARE(form.height(), px(3 * 480 + 2000));
+        QCOMPARE(form.CommandOK->y(), Twips(3 * 480 + 1050));
+        QCOMPARE(form.CommandCancel->y(), Twips(3 * 480 + 1050));
+        QCOMPARE(form.height(), Twips(3 * 480 + 2000));
         // The row after the last stays out of view.
         QVERIFY(control(&form, "TextLabel(3)")->isHidden());
         QVERIFY(gArduinoData(2).m_iNumAnalogInputs == 32 && gArduinoData(2).m_iNumDigitalIOs == 96);

@@ -13,13 +13,12 @@
 #include "model/CArduinoData.h"
 #include "model/CMainConfig.h"
 #include "model/ModuleGlobals.h"
+#include "support/Controls.h"
 #include "support/DialogDriver.h"
 #include "support/TestData.h"
 #include "mainwindow/MainWindowSession.h"
 
 namespace {
-
-constexpr int px(int twips) { return twips / 15; }
 
 template <typename T = QWidget>
 T* control(QWidget* form, const QString& name)
@@ -87,7 +86,7 @@ private slots:
         auto* analog = control<QLabel>(&io, "AnalogInput1");
         QCOMPARE(analog->text(), QStringLiteral("Analog Input 1"));
         QVERIFY(analog->isVisible());
-        QCOMPARE(analog->geometry(), QRect(io.LabelAnalogInputs->x(), px(1 * 300 + 1000), px(1600), px(230)));
+        QCOMPARE(analog->geometry(), QRect(io.LabelAnalogInputs->x(), Twips(1 * 300 + 1000), Twips(1600), Twips(230)));
         QVERIFY(analog->autoFillBackground());
         QCOMPARE(analog->palette().color(QPalette::Window), QColor(0xE0, 0xE0, 0xE0));
         auto* min = control<QLineEdit>(&io, "TxtMin1");
@@ -103,11 +102,11 @@ private slots:
         auto* digital = control<QLabel>(&io, "DigitalIO9");
         QCOMPARE(digital->text(), QStringLiteral("Digital IO 9"));
         QCOMPARE(digital->x(), io.LabelDigitalIOs->x());
-        QCOMPARE(digital->y(), px(9 * 300 + 600));
-        QCOMPARE(digital->height(), px(230));
+        QCOMPARE(digital->y(), Twips(9 * 300 + 600));
+        QCOMPARE(digital->height(), Twips(230));
         QCOMPARE(digital->palette().color(QPalette::Window), QColor(0xE0, 0xE0, 0xE0));
         auto* combo = control<QComboBox>(&io, "ComboDigital9");
-        QCOMPARE(combo->x(), digital->x() + digital->width() + px(500));
+        QCOMPARE(combo->x(), digital->x() + digital->width() + Twips(500));
         QCOMPARE(combo->y(), digital->y());
         QCOMPARE(combo->count(), 3);
         QCOMPARE(combo->itemText(0), QStringLiteral("PWM"));

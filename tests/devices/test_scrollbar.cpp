@@ -16,6 +16,7 @@
 #include "model/CArduinoData.h"
 #include "model/CMainConfig.h"
 #include "model/ModuleGlobals.h"
+#include "support/Controls.h"
 #include "support/DialogDriver.h"
 
 namespace {
@@ -143,6 +144,23 @@ private slots:
         auto* combo = f.add<QComboBox>("Combo", {0, 0, 50, 20});
         combo->setEditable(true);   // its own line edit is part of it, not a control of the form
         QCOMPARE(FormControls(&f).size(), kAll.size() + 1);
+    }
+
+    void bringingAFrameToTheFrontKeepsTheOrderOfTheControls()
+    {
+        QWidget form;
+        KeepControlOrder(&form);
+        named(new QLabel(&form), QStringLiteral("A"));
+        auto* frame = named(new QGroupBox(QStringLiteral("FrameOK"), &form), QStringLiteral("FrameOKCancel"));
+        named(new QPushButton(frame), QStringLiteral("CommandOK"));
+        named(new QLabel(&form), QStringLiteral("B"));
+        frame->raise();
+        QStringList names;
+        for (QWidget* w : FormControls(&form))
+            names << w->objectName();
+        QCOMPARE(names, (QStringList{"A", "FrameOKCancel", "CommandOK", "B"}));
+        delete form.findChild<QLabel*>(QStringLiteral("A"));
+        QCOMPARE(FormControls(&form).size(), 3);
     }
 
     void firstLayoutCreatesTheBarWithItsMaximumPlaceAndSteps()
@@ -386,6 +404,24 @@ private slots:
         QVERIFY(bar);
         QVERIFY(bar->isHidden());
         QVERIFY(FormArduinoIO::cScroll.m_bCreated);
+        io.CommandCancel->click();
+    }
+
+    void theStripOfOKAndCancelCountsBeforeTheRowsMadeAtLoad()
+    {
+        // The strip is a control of the form before the rows: once the running
+        // bottom has reached the foot of the form, the ninth digital row, which
+        // starts above it, no longer counts, and the bar stays hidden.
+        FormArduinoIO io;
+        io.iNumAnalog = 0;
+        io.iNumDigital = 9;
+        io.show();
+        auto* row = io.findChild<QLabel*>(QStringLiteral("DigitalIO8"));
+        QVERIFY(row->y() < io.height() && row->y() + row->height() > io.height());
+        auto* bar = io.findChild<QScrollBar*>(QStringLiteral("ScrollBar1"));
+        QVERIFY(bar);
+        QVERIFY(bar->isHidden());
+        QCOMPARE(bar->maximum(), io.height() - bar->height() + 50);   // from the foot of the strip
         io.CommandCancel->click();
     }
 
