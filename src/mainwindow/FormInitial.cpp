@@ -290,6 +290,15 @@ void FormInitial::connectHandlers()
         connect(CheckSource[i], &QCheckBox::clicked, this, [this, i] { CheckSource_Click(i); });
     for (int i = 0; i < CheckTarget.size(); ++i)
         connect(CheckTarget[i], &QCheckBox::clicked, this, [this, i] { CheckTarget_Click(i); });
+
+    // Rule clipboard and ordering.
+    connect(CommandAdd, &QPushButton::clicked, this, &FormInitial::CommandAdd_Click);
+    connect(ListEvents, &QTreeWidget::itemDoubleClicked, this, &FormInitial::ListEvents_DblClick);
+    connect(Copy, &QAction::triggered, this, &FormInitial::Copy_Click);
+    connect(Cut, &QAction::triggered, this, &FormInitial::Cut_Click);
+    connect(Paste, &QAction::triggered, this, &FormInitial::Paste_Click);
+    for (QAction* a : {Cut, Copy, Paste})
+        a->setEnabled(true);
 }
 // ---------------------------------------------------------------- start
 

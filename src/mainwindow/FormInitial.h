@@ -156,6 +156,17 @@ public:
     void SyncSelectedScene();
     void RefreshRuleView();
 
+    // Rule clipboard and ordering: add and edit through the rule editor, copy,
+    // cut, paste, and the rule list's part of Remove. iSelectedRule is the
+    // 0-based position of the rule of the row last clicked in ListEvents; -1: none.
+    qint16 iSelectedRule = -1;
+    void CommandAdd_Click();
+    void ListEvents_DblClick(class QTreeWidgetItem* row);
+    void Copy_Click();
+    void Cut_Click();
+    void Paste_Click();
+    void RemoveSelectedRules();
+
 protected:
     void closeEvent(QCloseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
