@@ -531,7 +531,10 @@ void FormAddEditAudioInter::moveAction(int by)
         Skip([&] {
             auto action = gEditActions(row + 1);
             gEditActions.Remove(row + 1);
-            gEditActions.Add(action, to + 1 <= gEditActions.Count() ? to + 1 : gEditActions.Count() + 1);
+            if (to + 1 <= gEditActions.Count())
+                gEditActions.Add(action, to + 1);
+            else
+                gEditActions.Add(action);
         });
         gDirty = true;
         row = to;
