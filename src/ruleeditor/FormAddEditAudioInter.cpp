@@ -68,6 +68,16 @@ void addIfAbsent(QComboBox* combo, const QString& text)
     combo->addItem(text);
 }
 
+void addKeepingText(QComboBox* combo, const QStringList& entries)
+{
+    const int index = combo->currentIndex();
+    const QString text = combo->currentText();
+    combo->addItems(entries);
+    combo->setCurrentIndex(index);
+    if (combo->isEditable())
+        combo->setEditText(text);
+}
+
 int listIndex(const QComboBox* combo)
 {
     const int i = combo->currentIndex();

@@ -6,6 +6,7 @@
 // the source side, the actions and the acceptance each in a file of its own.
 #include <QDialog>
 #include <QString>
+#include <QStringList>
 #include <functional>
 #include "rules/CAction.h"
 #include "support/Collection.h"
@@ -188,6 +189,8 @@ void selectText(QComboBox* combo, const QString& text);
 // Removes every entry with this text; removing the selected one leaves none selected.
 void removeAll(QComboBox* combo, const QString& text);
 void addIfAbsent(QComboBox* combo, const QString& text);
+// Adds entries without touching the text shown, as the old combos did.
+void addKeepingText(QComboBox* combo, const QStringList& entries);
 // The list index as the old combos gave it: -1 when a typed text matches no entry.
 int listIndex(const QComboBox* combo);
 // True when the control is not hidden (whether or not its window is on screen).

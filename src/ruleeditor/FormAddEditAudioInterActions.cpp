@@ -64,8 +64,10 @@ void FormAddEditAudioInter::ComboTargetType_Click()
     ComboNoteControlProg->hide();
     setWidth(ComboNoteControlProg, kNormalWidth);
     ComboNoteControlProg->clear();
+    QStringList copied;
     for (int i = 0; i < ComboVelValue->count(); ++i)
-        ComboNoteControlProg->addItem(ComboVelValue->itemText(i));
+        copied << ComboVelValue->itemText(i);
+    addKeepingText(ComboNoteControlProg, copied);
     if (ComboNoteControlProg->findText(kVar, Qt::MatchExactly | Qt::MatchCaseSensitive) >= 0)
         Skip([&] { selectText(ComboNoteControlProg, kVar); });
     else if (ComboNoteControlProg->count() > 0)
@@ -142,7 +144,7 @@ void FormAddEditAudioInter::ComboTargetType_Click()
         Label3->setText(QStringLiteral("Item"));
         Label3->show();
         if (type == 0) {
-            ComboNoteControlProg->addItems({QStringLiteral("0"), QStringLiteral("1")});
+            addKeepingText(ComboNoteControlProg, {QStringLiteral("0"), QStringLiteral("1")});
             ComboNoteControlProg->show();
         }
         break;

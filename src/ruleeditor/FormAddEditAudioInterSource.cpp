@@ -94,7 +94,7 @@ void FormAddEditAudioInter::ComboInterType_Change()
 
     auto valueLists = [&] {
         for (QComboBox* c : {ComboNoteControlProg, ComboVelValue})
-            c->addItems({QString(), kVar});
+            addKeepingText(c, {QString(), kVar});
         Skip([&] { select(ComboNoteControlProg, 1); });
         ComboNoteControlProg->setEnabled(false);
     };
