@@ -312,7 +312,17 @@ void FormInitial::connectHandlers()
         connect(CheckTarget[i], &QCheckBox::clicked, this, [this, i] { CheckTarget_Click(i); });
     connect(DigitalIO, &QAction::triggered, this, &FormInitial::DigitalIO_Click);
     connect(CheckPerformance, &QAction::triggered, this, &FormInitial::CheckPerformance_Click);
+
+    // Rule clipboard and ordering.
+    connect(CommandAdd, &QPushButton::clicked, this, &FormInitial::CommandAdd_Click);
+    connect(ListEvents, &QTreeWidget::itemDoubleClicked, this, &FormInitial::ListEvents_DblClick);
+    connect(Copy, &QAction::triggered, this, &FormInitial::Copy_Click);
+    connect(Cut, &QAction::triggered, this, &FormInitial::Cut_Click);
+    connect(Paste, &QAction::triggered, this, &FormInitial::Paste_Click);
+    for (QAction* a : {Cut, Copy, Paste})
+        a->setEnabled(true);
 }
+
 // ---------------------------------------------------------------- start
 
 void FormInitial::Form_Load()

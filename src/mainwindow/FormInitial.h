@@ -188,11 +188,18 @@ public:
     void ListEvents_MouseUp(float x, float y);
     void ListEvents_Click();
     void ListEvents_ColumnClick(int column);
-    // Removes the selected rows' rules (Remove with the focus on ListEvents).
-    void RemoveSelectedRules();
 
     // Prints the rule list of the current subscene.
     void Print_Click();
+
+    // Rule clipboard and ordering: add and edit through the rule editor, copy,
+    // cut, paste, and the rule list's part of Remove.
+    void CommandAdd_Click();
+    void ListEvents_DblClick(class QTreeWidgetItem* row);
+    void Copy_Click();
+    void Cut_Click();
+    void Paste_Click();
+    void RemoveSelectedRules();
 
 protected:
     void closeEvent(QCloseEvent* event) override;

@@ -13,6 +13,13 @@
 #include "model/ModuleGlobals.h"
 #include "rules/ModuleEvents.h"
 #include "rules/ModuleRuleDisplay.h"
+#include "files/ModuleClipboard.h"
+#include "model/CPart.h"
+#include "rules/ModuleGlobalEvents.h"
+#include "rules/ModuleRuleEdit.h"
+#include "ruleeditor/FormAddEditAudioInter.h"
+#include "support/NumberText.h"
+#include "support/OnError.h"
 #include "support/RuntimeError.h"
 
 namespace {
@@ -204,6 +211,180 @@ void FormInitial::ListEvents_ColumnClick(int column)
 
 // ---------------------------------------------------------------- rule clipboard and ordering
 
+namespace {
+
+// The subscene whose rules the list shows.
+CPart& currentPart() { return *gScenes(gCurrentScene + 1)->PartList(gCurrentPart + 1); }
+
+// The number in a row's text; an empty text is 0.
+qint16 rowNumber(QTreeWidget* list, int row) { return ParseInteger(list->topLevelItem(row)->text(0)); }
+
+// The rule at a 1-based position of the list on show.
+std::shared_ptr<CEvent> ruleAt(int position)
+{
+    return gGlobalRuleView ? gGlobalEvents(position) : currentPart().AudioEvents(position);
+}
+
+void storeAcceptedRule(CEvent& rule)
+{
+    StoreRule(rule, gRuleInterType, gRuleSense, gRuleSourceType, gRuleSource, gRuleItem, gRuleVariable, gRuleVal1,
+              gRuleVal2, gRuleChannel, gRuleMin, gRuleMax, gRuleClip, gRuleEnabled, gRuleRemarks, gRuleGroup,
+              gEditActions, gRuleEvent);
+}
+
+// A subscene never holds more rules than the file writes.
+void raiseMaxEventsPerPart()
+{
+    Skip([&] {
+        if (currentPart().AudioEvents.Count() > gMaxEventsPerPart)
+            gMaxEventsPerPart = static_cast<qint16>(currentPart().AudioEvents.Count());
+    });
+}
+
+void selectRow(QTreeWidget* list, int row, bool selected = true)
+{
+    if (QTreeWidgetItem* item = list->topLevelItem(row))
+        item->setSelected(selected);
+}
+
+} // namespace
+
+void FormInitial::CommandAdd_Click()
+{
+    const qint16 selected = iSelectedRule;
+    if (selected == -1)
+        gRuleIndex = -1;
+    else
+        Skip([&] { gRuleIndex = static_cast<qint16>(rowNumber(ListEvents, selected) - 1); });
+    gRuleEditMode = 1;
+    {
+        FormAddEditAudioInter editor(this);
+        editor.exec();
+    }
+    if (gRuleAccepted) {
+        auto rule = std::make_shared<CEvent>();
+        storeAcceptedRule(*rule);
+        if (gGlobalRuleView) {
+            AddGlobalEvent(rule, selected == -1 ? 0 : gRuleIndex + 1);
+        } else {
+            // With a filter on, the row count can be below the rule count: the rule then goes mid-list.
+            const int position = selected == -1 ? ListEvents->topLevelItemCount() : gRuleIndex + 1;
+            Skip([&] { currentPart().AddAudioEvent(rule, position); });
+        }
+        refillRuleList();
+        FillGroups(TextSearched);
+        if (!gGlobalRuleView)
+            raiseMaxEventsPerPart();
+        gRuleAccepted = false;
+    }
+    selectRow(ListEvents, 0, false);
+    selectRow(ListEvents, selected == -1 ? ListEvents->topLevelItemCount() - 2 : selected);
+}
+
+void FormInitial::ListEvents_DblClick(QTreeWidgetItem* row)
+{
+    if (!row || row->text(0).isEmpty())
+        return;
+    gRuleIndex = static_cast<qint16>(ParseInteger(row->text(0)) - 1);
+    gRuleEditMode = 2;
+    {
+        FormAddEditAudioInter editor(this);
+        editor.exec();
+    }
+    if (gRuleAccepted) {
+        Skip([&] { storeAcceptedRule(*ruleAt(gRuleIndex + 1)); });
+        refillRuleList();
+        FillGroups(TextSearched);
+        gRuleAccepted = false;
+    }
+    selectRow(ListEvents, 0, false);
+    selectRow(ListEvents, gRuleIndex);
+    ListEvents->setFocus();
+}
+
+void FormInitial::Copy_Click()
+{
+    gClipboard.Clear();
+    for (int row = 0; row < ListEvents->topLevelItemCount() - 1; ++row) {
+        if (!ListEvents->topLevelItem(row)->isSelected())
+            continue;
+        Skip([&] {
+            auto copy = std::make_shared<CEvent>();
+            CopyEvent(*copy, *ruleAt(rowNumber(ListEvents, row)));
+            auto item = std::make_shared<CClipboardItem>();
+            item->Event = copy;
+            gClipboard.Add(item);
+        });
+    }
+}
+
+void FormInitial::Cut_Click()
+{
+    Copy_Click();
+    int removed = 0;
+    for (int row = 0; row < ListEvents->topLevelItemCount(); ++row) {
+        if (!ListEvents->topLevelItem(row)->isSelected())
+            continue;
+        const int position = rowNumber(ListEvents, row) - removed;
+        if (gGlobalRuleView)
+            Skip([&] { gGlobalEvents.Remove(position); });   // directly: the global counter stays
+        else
+            Skip([&] { currentPart().RemoveAudioEvent(position); });
+        ++removed;
+    }
+    refillRuleList();
+}
+
+void FormInitial::Paste_Click()
+{
+    // The robot forms share the clipboard; an entry that holds a robot rule is
+    // no rule of this list and is skipped.
+    int pasted = 0;
+    for (const auto& entry : gClipboard) {
+        if (!entry->Event)
+            continue;
+        ++pasted;
+        auto copy = std::make_shared<CEvent>();
+        CopyEvent(*copy, *entry->Event);
+        const int position = iSelectedRule == -1 ? 0 : iSelectedRule + pasted;
+        if (gGlobalRuleView)
+            AddGlobalEvent(copy, static_cast<qint16>(position));
+        else
+            Skip([&] { currentPart().AddAudioEvent(copy, position); });
+    }
+    if (!gGlobalRuleView)
+        raiseMaxEventsPerPart();
+    refillRuleList();
+    const int rows = ListEvents->topLevelItemCount();
+    for (int i = 0; i < pasted; ++i)
+        selectRow(ListEvents, iSelectedRule == -1 ? rows - 2 - i : iSelectedRule + i);
+}
+
 void FormInitial::RemoveSelectedRules()
 {
+    const int rows = ListEvents->topLevelItemCount();
+    int row = 0;
+    int kept = 0;
+    bool asked = false;
+    while (row <= rows - 1) {
+        if (!ListEvents->topLevelItem(row)->isSelected()) {
+            ++row;
+            ++kept;
+            continue;
+        }
+        // The rows are not refreshed meanwhile: the row at `kept` holds the next rule's number.
+        Skip([&] { gRuleIndex = static_cast<qint16>(rowNumber(ListEvents, kept) - 1); });
+        if (!asked) {
+            asked = true;
+            if (MsgBox(QStringLiteral("Delete events?"), MsgButtons::YesNo) == MsgAnswer::No)
+                return;
+        }
+        gDirty = true;
+        if (gGlobalRuleView)
+            RemoveGlobalEvent(static_cast<qint16>(gRuleIndex + 1));
+        else
+            Skip([&] { currentPart().RemoveAudioEvent(gRuleIndex + 1); });
+        ++row;
+    }
+    refillRuleList();
 }

@@ -1,0 +1,420 @@
+// The rule operations of the main window: add and edit through the rule
+// editor, copy, cut, paste and remove, with their position arithmetic.
+#include "MainWindowSession.h"
+#include <QPushButton>
+#include <QTreeWidget>
+#include "../ruleeditor/EditorTestHelpers.h"
+#include "files/ModuleClipboard.h"
+#include "rules/ModuleEvents.h"
+
+using namespace edtest;
+
+namespace {
+// Rule n of the subscene carries the remark "r<n>" and an action of the given target type.
+void MakeRules(int count, const QList<int>& oscRules = {})
+{
+    for (int n = 1; n <= count; ++n) {
+        auto rule = MakeRule(0, 0, 0, -1, oscRules.contains(n) ? 8 : 6, 0);
+        rule->m_strRemarks = QStringLiteral("r%1").arg(n);
+        Part().AddAudioEvent(rule, 0);
+    }
+    gMaxEventsPerPart = qint16(count);
+}
+
+QStringList Order(const Collection<CEvent>& rules)
+{
+    QStringList remarks;
+    for (const auto& r : rules)
+        remarks << r->m_strRemarks;
+    return remarks;
+}
+QStringList Order() { return Order(Part().AudioEvents); }
+}
+
+class TestRuleOperations : public QObject {
+    Q_OBJECT
+    MainWindowSession session;
+    FormInitial* w = nullptr;
+
+    void refill() { FillRuleList(gCurrentScene + 1, gCurrentPart + 1, w->ListEvents); }
+    QStringList rowTexts()
+    {
+        QStringList t;
+        for (int i = 0; i < w->ListEvents->topLevelItemCount(); ++i)
+            t << w->ListEvents->topLevelItem(i)->text(0);
+        return t;
+    }
+    QList<int> selectedRows()
+    {
+        QList<int> rows;
+        for (int i = 0; i < w->ListEvents->topLevelItemCount(); ++i)
+            if (w->ListEvents->topLevelItem(i)->isSelected())
+                rows << i;
+        return rows;
+    }
+    void selectRows(const QList<int>& rows)
+    {
+        w->ListEvents->clearSelection();
+        for (int r : rows)
+            w->ListEvents->topLevelItem(r)->setSelected(true);
+    }
+    // A click on a row as the rule list records it: the rule's position minus 1, -1 for the trailing row.
+    void clickRow(int row)
+    {
+        selectRows({row});
+        const QString text = w->ListEvents->topLevelItem(row)->text(0);
+        w->iSelectedRule = text.isEmpty() ? qint16(-1) : qint16(text.toInt() - 1);
+    }
+
+private slots:
+    void initTestCase()
+    {
+        session.start();
+        w = session.form.get();
+    }
+    void cleanupTestCase() { session.stop(); }
+    void init()
+    {
+        ResetAll();
+        gSourceFilter.Fill(true);
+        gTargetFilter.Fill(true);
+        gClipboard.Clear();
+        gMaxEventsPerPart = 0;
+        w->iSelectedRule = -1;
+        refill();
+    }
+
+    void pasteAheadOfTheSelectedRule()
+    {
+        MakeRules(5);
+        refill();
+        selectRows({2, 3});
+        session.menu("Copy")->trigger();
+        QCOMPARE(gClipboard.Count(), 2);
+        clickRow(1);
+        session.menu("Paste")->trigger();
+        QCOMPARE(Order(), (QStringList{"r1", "r3", "r4", "r2", "r3", "r4", "r5"}));
+        QCOMPARE(selectedRows(), (QList<int>{1, 2}));
+        QVERIFY(!gDirty);
+        QCOMPARE(gMaxEventsPerPart, qint16(7));
+    }
+
+    void pasteTwiceGivesIndependentCopies()
+    {
+        MakeRules(2);
+        refill();
+        selectRows({0});
+        session.menu("Copy")->trigger();
+        session.menu("Paste")->trigger();
+        session.menu("Paste")->trigger();
+        QCOMPARE(Order(), (QStringList{"r1", "r2", "r1", "r1"}));
+        QVERIFY(Part().AudioEvents(3) != Part().AudioEvents(4));
+        QVERIFY(Part().AudioEvents(3)->m_MsgOut->Item(1) != Part().AudioEvents(4)->m_MsgOut->Item(1));
+        Part().AudioEvents(3)->m_strRemarks = "changed";
+        Part().AudioEvents(3)->m_MsgOut->Item(1)->m_strVal1 = "99";
+        QCOMPARE(Part().AudioEvents(4)->m_strRemarks, QString("r1"));
+        QCOMPARE(Part().AudioEvents(4)->m_MsgOut->Item(1)->m_strVal1, QString("1"));
+        QCOMPARE(gClipboard(1)->Event->m_strRemarks, QString("r1"));
+        QCOMPARE(gClipboard(1)->Event->m_MsgOut->Item(1)->m_strVal1, QString("1"));
+        QCOMPARE(Part().AudioEvents(1)->m_strRemarks, QString("r1"));
+    }
+
+    void cutThenPasteWithNoRowSelectedMovesToTheEnd()
+    {
+        MakeRules(4);
+        refill();
+        selectRows({0, 1});
+        session.menu("Cut")->trigger();
+        QCOMPARE(Order(), (QStringList{"r3", "r4"}));
+        QCOMPARE(rowTexts(), (QStringList{"1", "2", ""}));
+        w->iSelectedRule = -1;
+        session.menu("Paste")->trigger();
+        QCOMPARE(Order(), (QStringList{"r3", "r4", "r1", "r2"}));
+        QCOMPARE(selectedRows(), (QList<int>{2, 3}));
+        QVERIFY(!gDirty);
+    }
+
+    void cutOfRowsTwoAndFour()
+    {
+        MakeRules(5);
+        refill();
+        selectRows({1, 3});
+        session.menu("Cut")->trigger();
+        QCOMPARE(Order(), (QStringList{"r1", "r3", "r5"}));
+        QCOMPARE(gClipboard.Count(), 2);
+        QCOMPARE(gClipboard(1)->Event->m_strRemarks, QString("r2"));
+        QCOMPARE(gClipboard(2)->Event->m_strRemarks, QString("r4"));
+        QVERIFY(!gDirty);
+    }
+
+    void cutOnADescendingListTakesOtherRules()
+    {
+        MakeRules(5);
+        refill();
+        // Rows as a descending sort leaves them: 5, 4, 3, 2, 1, then the empty row.
+        QList<QTreeWidgetItem*> rows;
+        while (w->ListEvents->topLevelItemCount() > 1)
+            rows << w->ListEvents->takeTopLevelItem(0);
+        for (QTreeWidgetItem* row : rows)
+            w->ListEvents->insertTopLevelItem(0, row);
+        QCOMPARE(rowTexts(), (QStringList{"5", "4", "3", "2", "1", ""}));
+        selectRows({0, 1});
+        session.menu("Cut")->trigger();
+        QCOMPARE(gClipboard(1)->Event->m_strRemarks, QString("r5"));
+        QCOMPARE(gClipboard(2)->Event->m_strRemarks, QString("r4"));
+        QCOMPARE(Order(), (QStringList{"r1", "r2", "r4"}));
+    }
+
+    void removeWithNoChangesNothing()
+    {
+        MakeRules(3);
+        refill();
+        selectRows({1});
+        w->ListEvents->setFocus();
+        QCOMPARE(Box([&] { w->RemoveSelectedRules(); }, QMessageBox::No),
+                 QString("QEL Setup|Delete events?|%1").arg(int(QMessageBox::NoIcon)));
+        QCOMPARE(Order(), (QStringList{"r1", "r2", "r3"}));
+        QVERIFY(!gDirty);
+        QCOMPARE(selectedRows(), QList<int>{1});
+    }
+
+    void removeOfRowsTwoAndFour()
+    {
+        MakeRules(5);
+        refill();
+        selectRows({1, 3});
+        w->ListEvents->setFocus();
+        QCOMPARE(Box([&] { w->RemoveSelectedRules(); }, QMessageBox::Yes),
+                 QString("QEL Setup|Delete events?|%1").arg(int(QMessageBox::NoIcon)));
+        QCOMPARE(Order(), (QStringList{"r1", "r3", "r5"}));
+        QVERIFY(gDirty);
+        QCOMPARE(rowTexts(), (QStringList{"1", "2", "3", ""}));
+        QCOMPARE(gMaxEventsPerPart, qint16(5));   // never lowered
+    }
+
+    void removeOnAFilteredListTakesANeighbour()
+    {
+        MakeRules(7, {2, 5, 7});
+        gTargetFilter(6) = false;
+        refill();
+        QCOMPARE(rowTexts(), (QStringList{"2", "5", "7", ""}));
+        selectRows({1, 2});
+        w->ListEvents->setFocus();
+        Box([&] { w->RemoveSelectedRules(); }, QMessageBox::Yes);
+        gTargetFilter(6) = true;
+        QCOMPARE(Order(), (QStringList{"r1", "r2", "r3", "r4", "r7"}));
+    }
+
+    void removeOfTheEmptyRowAsksAndRemovesNothing()
+    {
+        MakeRules(2);
+        refill();
+        selectRows({2});
+        Box([&] { w->RemoveSelectedRules(); }, QMessageBox::Yes);
+        QCOMPARE(Order(), (QStringList{"r1", "r2"}));
+        QVERIFY(gDirty);
+    }
+
+    void pasteRaisesTheMaximumSoNoRuleIsLost()
+    {
+        MakeRules(2);
+        gMaxEventsPerPart = 2;
+        refill();
+        selectRows({0, 1});
+        session.menu("Copy")->trigger();
+        session.menu("Paste")->trigger();
+        QCOMPARE(Part().AudioEvents.Count(), 4);
+        QCOMPARE(gMaxEventsPerPart, qint16(4));
+        selectRows({0, 1, 2});
+        Box([&] { w->RemoveSelectedRules(); }, QMessageBox::Yes);
+        QCOMPARE(Part().AudioEvents.Count(), 1);
+        QCOMPARE(gMaxEventsPerPart, qint16(4));
+    }
+
+    void robotRulesOnTheClipboardAreSkipped()
+    {
+        MakeRules(1);
+        refill();
+        auto robot = std::make_shared<CClipboardItem>();
+        robot->BotEvent = std::make_shared<CBotEvent>();
+        gClipboard.Add(robot);
+        auto rule = std::make_shared<CClipboardItem>();
+        rule->Event = MakeRule(0, 0, 1, -1);
+        rule->Event->m_strRemarks = "pasted";
+        gClipboard.Add(rule);
+        w->iSelectedRule = -1;
+        session.menu("Paste")->trigger();
+        QCOMPARE(Order(), (QStringList{"r1", "pasted"}));
+        QCOMPARE(selectedRows(), QList<int>{1});
+    }
+
+    void pasteOfAnEmptyClipboardRefillsOnly()
+    {
+        MakeRules(2);
+        w->ListEvents->clear();
+        session.menu("Paste")->trigger();
+        QCOMPARE(rowTexts(), (QStringList{"1", "2", ""}));
+        QCOMPARE(Order(), (QStringList{"r1", "r2"}));
+    }
+
+    void addAppendsFromTheTrailingRow()
+    {
+        MakeRules(2);
+        refill();
+        clickRow(2);
+        DialogDriver driver;
+        driver.next([](QWidget* d) {
+            QCOMPARE(d->objectName(), QString("FormAddEditAudioInter"));
+            QCOMPARE(d->findChild<QLabel*>("LabelNumEvent")->text(), QString("0"));
+            DialogDriver::type(d, "TextRemarks", "new");
+            DialogDriver::click(d, "CommandOK");
+        });
+        w->CommandAdd->click();
+        QVERIFY2(driver.finished(), qPrintable(driver.error()));
+        QCOMPARE(Order(), (QStringList{"r1", "r2", "new"}));
+        QCOMPARE(rowTexts(), (QStringList{"1", "2", "3", ""}));
+        QCOMPARE(selectedRows(), QList<int>{2});
+        QCOMPARE(gMaxEventsPerPart, qint16(3));
+        QVERIFY(!gRuleAccepted);
+        QVERIFY(gDirty);
+        QCOMPARE(Part().AudioEvents(3)->m_strEvent, QString("Automatic -> QEL | Trigger: Up |  || Begin * || QEL: Next Part - "));
+    }
+
+    void addGoesAheadOfTheSelectedRule()
+    {
+        MakeRules(3);
+        refill();
+        clickRow(1);
+        DialogDriver driver;
+        driver.next([](QWidget* d) {
+            QCOMPARE(d->findChild<QLabel*>("LabelNumEvent")->text(), QString("2"));
+            DialogDriver::type(d, "TextRemarks", "new");
+            DialogDriver::type(d, "TextGroup", "fresh");
+            DialogDriver::click(d, "CommandOK");
+        });
+        w->CommandAdd->click();
+        QVERIFY2(driver.finished(), qPrintable(driver.error()));
+        QCOMPARE(Order(), (QStringList{"r1", "new", "r2", "r3"}));
+        QCOMPARE(selectedRows(), QList<int>{1});
+        QVERIFY(items(w->TextSearched).contains("fresh"));
+    }
+
+    void addWithAFilterGoesIntoTheMiddle()
+    {
+        MakeRules(5, {2, 4});
+        gTargetFilter(6) = false;
+        refill();
+        QCOMPARE(rowTexts(), (QStringList{"2", "4", ""}));
+        clickRow(2);
+        DialogDriver driver;
+        driver.next([](QWidget* d) {
+            DialogDriver::type(d, "TextRemarks", "new");
+            DialogDriver::click(d, "CommandOK");
+        });
+        w->CommandAdd->click();
+        QVERIFY2(driver.finished(), qPrintable(driver.error()));
+        QCOMPARE(Order(), (QStringList{"r1", "r2", "new", "r3", "r4", "r5"}));
+    }
+
+    void cancelledAddChangesNothing()
+    {
+        MakeRules(2);
+        refill();
+        clickRow(0);
+        DialogDriver driver;
+        driver.next([](QWidget* d) { DialogDriver::click(d, "CommandCancel"); });
+        w->CommandAdd->click();
+        QVERIFY2(driver.finished(), qPrintable(driver.error()));
+        QCOMPARE(Order(), (QStringList{"r1", "r2"}));
+        QCOMPARE(selectedRows(), QList<int>{0});
+        QVERIFY(!gDirty);
+    }
+
+    void addToTheGlobalRules()
+    {
+        gGlobalRuleView = true;
+        auto existing = MakeRule(0, 0, 0, -1);
+        existing->m_strRemarks = "g1";
+        AddGlobalEvent(existing, 0);
+        refill();
+        clickRow(0);
+        DialogDriver driver;
+        driver.next([](QWidget* d) {
+            QCOMPARE(d->findChild<QLabel*>("Label4")->text(), QString("Global Rule"));
+            DialogDriver::type(d, "TextRemarks", "g0");
+            DialogDriver::click(d, "CommandOK");
+        });
+        w->CommandAdd->click();
+        QVERIFY2(driver.finished(), qPrintable(driver.error()));
+        QCOMPARE(Order(gGlobalEvents), (QStringList{"g0", "g1"}));
+        QCOMPARE(Part().AudioEvents.Count(), 0);
+        QCOMPARE(gMaxEventsPerPart, qint16(0));
+    }
+
+    void doubleClickEditsTheRuleInPlace()
+    {
+        MakeRules(3);
+        refill();
+        DialogDriver driver;
+        driver.next([](QWidget* d) {
+            QCOMPARE(d->findChild<QLineEdit*>("TextRemarks")->text(), QString("r2"));
+            DialogDriver::type(d, "TextRemarks", "edited");
+            DialogDriver::click(d, "CommandOK");
+        });
+        if (!w->ListEvents->isVisible())
+            w->CommandConn->click();
+        QVERIFY(w->ListEvents->isVisible());
+        QTreeWidgetItem* row = w->ListEvents->topLevelItem(1);
+        const QPoint at = w->ListEvents->visualItemRect(row).center();
+        QTest::mouseClick(w->ListEvents->viewport(), Qt::LeftButton, {}, at);
+        QTest::mouseDClick(w->ListEvents->viewport(), Qt::LeftButton, {}, at);
+        QVERIFY2(driver.finished(), qPrintable(driver.error()));
+        QCOMPARE(Order(), (QStringList{"r1", "edited", "r3"}));
+        QCOMPARE(selectedRows(), QList<int>{1});
+        QVERIFY(w->ListEvents->hasFocus() || !w->isActiveWindow());
+        QVERIFY(!gRuleAccepted);
+    }
+
+    void doubleClickOnTheEmptyRowDoesNothing()
+    {
+        MakeRules(1);
+        refill();
+        DialogDriver none(1500);
+        w->ListEvents_DblClick(w->ListEvents->topLevelItem(1));
+        w->ListEvents_DblClick(nullptr);
+        QVERIFY2(none.finished(), qPrintable(none.error()));
+    }
+
+    void copyDoesNotSetDirty()
+    {
+        MakeRules(2);
+        refill();
+        selectRows({0, 1, 2});
+        session.menu("Copy")->trigger();
+        QCOMPARE(gClipboard.Count(), 2);
+        QVERIFY(!gDirty);
+        QVERIFY(gClipboard(1)->Event != Part().AudioEvents(1));
+    }
+
+    void globalCutLeavesTheCounter()
+    {
+        gGlobalRuleView = true;
+        for (int i = 1; i <= 3; ++i) {
+            auto r = MakeRule(0, 0, 0, -1);
+            r->m_strRemarks = QStringLiteral("g%1").arg(i);
+            AddGlobalEvent(r, 0);
+        }
+        const qint16 counter = gGlobalEventCount;
+        refill();
+        selectRows({0, 2});
+        session.menu("Cut")->trigger();
+        QCOMPARE(Order(gGlobalEvents), QStringList{"g2"});
+        QCOMPARE(gGlobalEventCount, counter);
+        clickRow(0);
+        session.menu("Paste")->trigger();
+        QCOMPARE(Order(gGlobalEvents), (QStringList{"g1", "g3", "g2"}));
+    }
+};
+
+QTEST_MAIN(TestRuleOperations)
+#include "test_ruleoperations.moc"
