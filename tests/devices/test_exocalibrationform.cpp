@@ -151,6 +151,44 @@ private slots:
         QVERIFY(!form.isVisible());
     }
 
+    void withACountBelowOneTheOpenerSaysSoAndTouchesNothing()
+    {
+        gMainConfig.m_iNExos = -1;
+        gMainConfig.m_bUpdate = true;
+        gExoDataEdit(0).m_iID = 7;
+        DialogDriver driver;
+        QString text;
+        driver.next([&](QWidget* w) {
+            text = DialogDriver::text(w);
+            DialogDriver::press(w, QMessageBox::Ok);
+        });
+        DialogDriver::click(window.form.get(), QStringLiteral("ExoskeletonsCalibration"));
+        QVERIFY2(driver.finished(), qPrintable(driver.error()));
+        QCOMPARE(text, QStringLiteral("No Exoskeletons!"));
+        // Neither the copies nor m_bUpdate were touched.
+        QCOMPARE(gExoDataEdit(0).m_iID, qint16(7));
+        QVERIFY(gMainConfig.m_bUpdate);
+        gMainConfig.m_bUpdate = false;
+    }
+
+    void anIdentityOrChannelOutsideTheListShowsNoEntryAndOkStoresZero()
+    {
+        gExoData(0).m_iID = 3;
+        gExoData(0).m_iChannel(4) = 40;
+        gExoData(0).m_iChannel(5) = 0;
+        s.open();
+        QCOMPARE(combo(s.form.get(), "ComboID")->currentText(), QString());
+        QCOMPARE(combo(s.form.get(), "ComboID")->currentIndex(), -1);
+        QCOMPARE(combo(s.form.get(), "ComboChannel(4)")->currentText(), QString());
+        QCOMPARE(combo(s.form.get(), "ComboChannel(5)")->currentText(), QString());
+        QCOMPARE(combo(s.form.get(), "ComboChannel(6)")->currentText(), QStringLiteral("7"));
+        s.click("CommandOK");
+        QCOMPARE(gExoDataEdit(0).m_iID, qint16(0));
+        QCOMPARE(gExoDataEdit(0).m_iChannel(4), qint16(0));
+        QCOMPARE(gExoDataEdit(0).m_iChannel(5), qint16(0));
+        QCOMPARE(gExoDataEdit(0).m_iChannel(6), qint16(7));
+    }
+
     void okFromTheMainWindowCopiesBack()
     {
         gExoData(0).m_strItem(0) = QStringLiteral("kept");
