@@ -294,8 +294,11 @@ private slots:
         QVERIFY(stillStopCaption);
         QVERIFY(!s.button("CommandOK")->isEnabled());
         QVERIFY(!s.button("CommandCancel")->isEnabled());
-        QTest::qWait(150);
-        QCOMPARE(first.requests(), firstAtSwitch);
+        QVERIFY(!s.form->MSComm1.portOpen());
+        // The request in flight at the switch may reach the first suit after it; none follows.
+        const std::size_t firstSettled = settledRequests(first);
+        QVERIFY2(firstSettled <= firstAtSwitch + 1,
+                 qPrintable(QStringLiteral("%1 after %2").arg(firstSettled).arg(firstAtSwitch)));
         QCOMPARE(second.requests(), std::size_t(0));
         QCOMPARE(edit(s.form.get(), "TextExoPort")->text(), QStringLiteral("2"));
 
@@ -303,7 +306,7 @@ private slots:
         s.run([&] {
             s.stopWhen([&] { return second.requests() >= 3 && s.textMax(0)->text() == QString::number(kRamp[0]); });
         });
-        QCOMPARE(first.requests(), firstAtSwitch);
+        QCOMPARE(first.requests(), firstSettled);
         QVERIFY(second.requests() >= 3);
         QCOMPARE(int(second.sim().requests().front()[1]), 2);
         QCOMPARE(s.button("CommandAuto")->text(), kStartCaption);
