@@ -141,6 +141,35 @@ private slots:
         QCOMPARE(s.textMin(1)->text(), QString::number(kLow[1]));
     }
 
+    void aPickedChannelDoesNotReachTheRunningCalibration()
+    {
+        Suit suit(1, scripted({kLow}));
+        s.open();
+        // A pick changes the dialog only; the run reads the channels of the model.
+        DialogDriver::pick(s.form.get(), QStringLiteral("ComboChannel(0)"), QStringLiteral("3"));
+        QCOMPARE(gExoData(0).m_iChannel(0), qint16(1));
+        s.run([&] { s.stopWhen([&] { return s.textMax(28)->text() == QString::number(kLow[28]); }); });
+        QCOMPARE(s.textMin(0)->text(), QString::number(kLow[0]));
+        QCOMPARE(s.textMax(0)->text(), QString::number(kLow[0]));
+    }
+
+    void eachRunStartsItsRangesAfresh()
+    {
+        const SuitFrame middle = frameOf([](int c) { return 120 + c; });
+        s.open();
+        {
+            Suit wide(1, scripted({kLow, kHigh}));
+            s.run([&] { s.stopWhen([&] { return s.textMax(28)->text() == QString::number(kHigh[28]); }); });
+            QCOMPARE(s.textMin(28)->text(), QString::number(kLow[28]));
+        }
+        Suit narrow(1, scripted({middle}));
+        s.run([&] { s.stopWhen([&] { return narrow.sim().answerCount() >= 3; }); });
+        for (int row = 0; row < kExoRows; ++row) {
+            QCOMPARE(s.textMin(row)->text(), QString::number(middle[row]));
+            QCOMPARE(s.textMax(row)->text(), QString::number(middle[row]));
+        }
+    }
+
     void theRequestCarriesTheStoredIdentity()
     {
         gExoData(0).m_iID = 2;

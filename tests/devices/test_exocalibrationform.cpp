@@ -336,6 +336,16 @@ private slots:
         QCOMPARE(gMainConfig.m_iExo2Port, qint16(2));
     }
 
+    void aChannelTypedForTheSecondSuitGoesToItsRecordInTheModel()
+    {
+        s.open();
+        DialogDriver::pick(s.form.get(), QStringLiteral("ComboExo"), QStringLiteral("2"));
+        DialogDriver::type(s.form.get(), QStringLiteral("ComboChannel(0)"), QStringLiteral("5"));
+        QCOMPARE(gExoData(1).m_iChannel(0), qint16(5));
+        QCOMPARE(gExoData(0).m_iChannel(0), qint16(1));
+        QCOMPARE(gExoDataEdit(1).m_iChannel(0), qint16(1));
+    }
+
     void choosingTheSuitShownThrowsAwayWhatWasNotStored()
     {
         s.open();
