@@ -313,6 +313,49 @@ private slots:
         }
     }
 
+    void cancelWhileSamplingStopsWaitsAndKeepsNothing()
+    {
+        gDirty = true;
+        Suit suit(1, scripted({kLow, kHigh}));
+        s.open();
+        QElapsedTimer clock;
+        qint64 cancelTook = -1;
+        s.run([&] {
+            when(s.form.get(), [&] { return s.textMax(0)->text() == QString::number(kHigh[0]); }, [&] {
+                clock.start();
+                // Cancel is disabled while sampling; its handler is what runs should it come.
+                s.form->CommandCancel_Click();
+                cancelTook = clock.elapsed();
+            });
+        });
+        QVERIFY(cancelTook >= 100);
+        QVERIFY(!s.form->isVisible());
+        QCOMPARE(s.form->result(), int(QDialog::Rejected));
+        QVERIFY(!s.form->MSComm1.portOpen());
+        QVERIFY(!gMainConfig.m_bUpdate);
+        QVERIFY(!gDirty);
+        QCOMPARE(gExoDataEdit(0).m_iMin(0), qint16(0));
+        QCOMPARE(gExoDataEdit(0).m_iMax(0), qint16(255));
+    }
+
+    void choosingTheSuitShownWhileRunningAlsoEndsTheRunAndKeepsTheButtons()
+    {
+        CalibrationSession::resetModel(2);
+        Suit suit(1, scripted({kLow}));
+        s.open();
+        s.run([&] {
+            when(s.form.get(), [&] { return suit.sim().answerCount() >= 2; },
+                 [&] { DialogDriver::pick(s.form.get(), QStringLiteral("ComboExo"), QStringLiteral("1")); });
+        });
+        QVERIFY(!s.form->MSComm1.portOpen());
+        QCOMPARE(s.button("CommandAuto")->text(), kStopCaption);
+        QVERIFY(!s.button("CommandOK")->isEnabled());
+        QVERIFY(!s.button("CommandCancel")->isEnabled());
+        // The suit shown was reloaded from its working copy: the sampled ranges are gone.
+        QCOMPARE(s.textMin(0)->text(), QStringLiteral("0"));
+        QCOMPARE(s.textMax(0)->text(), QStringLiteral("255"));
+    }
+
     void aPortThatDoesNotExistFailsSilently()
     {
         qputenv("QEL_COM1", "/nonexistent/qel-no-such-port");
