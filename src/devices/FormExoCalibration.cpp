@@ -61,6 +61,14 @@ QComboBox* editableCombo(QWidget* parent, const QString& name)
     return combo;
 }
 
+// Empties a combo box and fills it with entries, none of them selected.
+void refill(QComboBox* combo, const QStringList& entries)
+{
+    combo->clear();
+    combo->addItems(entries);
+    combo->setCurrentIndex(-1);
+}
+
 QStringList numbers(int from, int to)
 {
     QStringList list;
@@ -180,8 +188,7 @@ void FormExoCalibration::Form_Load()
         m_unloaded = true;
         return;
     }
-    ComboExo->clear();
-    ComboExo->addItems(numbers(1, gMainConfig.m_iNExos));
+    refill(ComboExo, numbers(1, gMainConfig.m_iNExos));
     gSuppressComboEvents = true;
     ComboExo->setCurrentIndex(0);
     gSuppressComboEvents = false;
@@ -200,13 +207,11 @@ void FormExoCalibration::Form_Load()
 // Fills the identity, the channels and the ranges from a working copy.
 void FormExoCalibration::loadRecord(int exo)
 {
-    ComboID->clear();
-    ComboID->addItems({QStringLiteral("1"), QStringLiteral("2")});
+    refill(ComboID, {QStringLiteral("1"), QStringLiteral("2")});
     Skip([&] { selectEntry(ComboID, gExoDataEdit(exo).m_iID - 1); });
     const QStringList channels = numbers(1, 32);
     for (int row = 0; row < kExoRows; ++row) {
-        ComboChannel(row)->clear();
-        ComboChannel(row)->addItems(channels);
+        refill(ComboChannel(row), channels);
         Skip([&] { selectEntry(ComboChannel(row), gExoDataEdit(exo).m_iChannel(row) - 1); });
     }
     for (int row = 0; row < kExoRows; ++row) {

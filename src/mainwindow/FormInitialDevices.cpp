@@ -58,8 +58,10 @@ void FormInitial::runDeviceDialog(QDialog& dialog)
 
 void FormInitial::ExoskeletonsCalibration_Click()
 {
-    if (!devicesToConfigure(gMainConfig.m_iNExos, "No Exoskeletons!"))
+    if (gMainConfig.m_iNExos < 1) {
+        MsgBoxExclamation(QStringLiteral("No Exoskeletons!"));
         return;
+    }
     // The dialog works on copies of both suits; m_strItem is not among the fields copied.
     const auto copyExo = [](const CExoData& from, CExoData& to) {
         to.m_iID = from.m_iID;
@@ -72,14 +74,15 @@ void FormInitial::ExoskeletonsCalibration_Click()
     };
     for (int exo = 0; exo <= 1; ++exo)
         copyExo(gExoData(exo), gExoDataEdit(exo));
+    gMainConfig.m_bUpdate = false;
     FormExoCalibration dialog(this);
-    // When the dialog has closed: accepted, it sets m_bUpdate, and the copies go back.
-    connect(&dialog, &QDialog::finished, this, [&copyExo] {
-        if (gMainConfig.m_bUpdate)
-            for (int exo = 0; exo <= 1; ++exo)
-                copyExo(gExoDataEdit(exo), gExoData(exo));
-    });
-    runDeviceDialog(dialog);
+    dialog.exec();
+    // Accepted, the dialog has set m_bUpdate: the copies go back.
+    if (gMainConfig.m_bUpdate) {
+        for (int exo = 0; exo <= 1; ++exo)
+            copyExo(gExoDataEdit(exo), gExoData(exo));
+        gMainConfig.m_bUpdate = false;
+    }
 }
 
 void FormInitial::ArduinoConfig_Click()

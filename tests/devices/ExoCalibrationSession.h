@@ -45,6 +45,24 @@ private:
     int m_port;
 };
 
+// The suit's count of requests once its reader has caught up with the line:
+// the count has not moved for 200 ms (a loaded machine may be slow to run it).
+inline std::size_t settledRequests(const Suit& suit, int timeoutMs = 10000)
+{
+    std::size_t last = suit.requests();
+    QElapsedTimer clock, still;
+    clock.start();
+    still.start();
+    while (clock.elapsed() < timeoutMs && still.elapsed() < 200) {
+        QTest::qWait(10);
+        if (suit.requests() != last) {
+            last = suit.requests();
+            still.restart();
+        }
+    }
+    return last;
+}
+
 // A frame whose byte for channel c (1 to 32) is value(c).
 inline SuitFrame frameOf(const std::function<int(int)>& value)
 {
@@ -65,7 +83,7 @@ inline std::vector<std::uint8_t> bytesOf(std::initializer_list<SuitFrame> frames
 // Checks `condition` every millisecond from the event queue, which the sampling
 // loop keeps running; runs `action` once when it holds, or after the time-out.
 inline void when(QObject* context, std::function<bool()> condition, std::function<void()> action,
-                 int timeoutMs = 5000)
+                 int timeoutMs = 10000)
 {
     auto* timer = new QTimer(context);
     auto clock = std::make_shared<QElapsedTimer>();
@@ -89,7 +107,7 @@ inline void after(QObject* context, int ms, std::function<void()> action)
 // Closes the dialog (which ends a run) if a test has not finished in time.
 class Watchdog {
 public:
-    explicit Watchdog(QDialog* dialog, int ms = 20000)
+    explicit Watchdog(QDialog* dialog, int ms = 30000)
     {
         m_timer.setSingleShot(true);
         QObject::connect(&m_timer, &QTimer::timeout, dialog, [dialog, this] {
@@ -131,6 +149,14 @@ public:
     T* control(const QString& name) { return DialogDriver::find<T>(form.get(), name); }
     QLineEdit* textMin(int row) { return control<QLineEdit>(QStringLiteral("TextMin(%1)").arg(row)); }
     QLineEdit* textMax(int row) { return control<QLineEdit>(QStringLiteral("TextMax(%1)").arg(row)); }
+    // Every row's range as shown, "min-max".
+    QStringList ranges()
+    {
+        QStringList shown;
+        for (int row = 0; row < kExoRows; ++row)
+            shown << textMin(row)->text() + "-" + textMax(row)->text();
+        return shown;
+    }
     QString errors() { return control<QLabel>(QStringLiteral("LabelErrors"))->text(); }
     QPushButton* button(const char* name) { return control<QPushButton>(QString::fromLatin1(name)); }
     void click(const char* name) { DialogDriver::click(form.get(), QString::fromLatin1(name)); }
@@ -145,7 +171,7 @@ public:
         QVERIFY2(!dog.fired(), "the run did not end in time");
     }
     // Stops the run with a click on CommandAuto once `condition` holds.
-    void stopWhen(std::function<bool()> condition, int timeoutMs = 5000)
+    void stopWhen(std::function<bool()> condition, int timeoutMs = 10000)
     {
         when(form.get(), std::move(condition), [this] { click("CommandAuto"); }, timeoutMs);
     }

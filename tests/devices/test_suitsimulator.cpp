@@ -27,12 +27,13 @@ public:
         const std::uint8_t bytes[4] = {0x40, static_cast<std::uint8_t>(id), 0x20, 0x00};
         QCOMPARE(::write(m_fd, bytes, 4), ssize_t(4));
     }
-    std::vector<std::uint8_t> read(int ms)
+    // What arrives within ms; with `enough`, stops as soon as that many bytes are in.
+    std::vector<std::uint8_t> read(int ms, std::size_t enough = 0)
     {
         std::vector<std::uint8_t> got;
         QElapsedTimer clock;
         clock.start();
-        while (clock.elapsed() < ms) {
+        while (clock.elapsed() < ms && (enough == 0 || got.size() < enough)) {
             pollfd p{m_fd, POLLIN, 0};
             if (poll(&p, 1, 5) > 0) {
                 std::uint8_t buf[256];
@@ -41,6 +42,15 @@ public:
                     got.insert(got.end(), buf, buf + n);
             }
         }
+        return got;
+    }
+
+    // One answer: its 32 bytes, however slow the machine, and anything that comes straight after.
+    std::vector<std::uint8_t> frame()
+    {
+        auto got = read(10000, 32);
+        const auto more = read(20);
+        got.insert(got.end(), more.begin(), more.end());
         return got;
     }
 
@@ -64,14 +74,15 @@ private slots:
         QVERIFY(line.ok());
         for (int i = 0; i < 5; ++i) {
             line.request(1);
-            const auto frame = line.read(30);
+            const auto frame = line.frame();
             QCOMPARE(frame.size(), std::size_t(32));
             for (int c = 0; c < 8; ++c)
                 QVERIFY(frame[c] >= 40 && frame[c] <= 200);
             QVERIFY(frame[28] <= 3);
         }
         QCOMPARE(suit.requestCount(), std::size_t(5));
-        QCOMPARE(suit.answerCount(), std::size_t(5));
+        // The count goes up just after the answer is written.
+        QTRY_COMPARE_WITH_TIMEOUT(suit.answerCount(), std::size_t(5), 10000);
     }
 
     void valuesMoveSmoothlyBetweenTheBounds()
@@ -102,14 +113,14 @@ private slots:
         line.request(1);
         QVERIFY(line.read(40).empty());
         line.request(2);
-        QCOMPARE(line.read(40).size(), std::size_t(32));
+        QCOMPARE(line.frame().size(), std::size_t(32));
 
         o.anyId = true;
         SuitSimulator loose(o);
         QVERIFY(loose.start());
         Line other(loose.devicePath());
         other.request(1);
-        QCOMPARE(other.read(40).size(), std::size_t(32));
+        QCOMPARE(other.frame().size(), std::size_t(32));
     }
 
     void dropsEveryNthAnswerAndAnswersLate()
@@ -122,9 +133,10 @@ private slots:
         Line line(suit.devicePath());
         line.request(1);
         QVERIFY(line.read(30).empty());
-        QCOMPARE(line.read(80).size(), std::size_t(32));
+        QCOMPARE(line.frame().size(), std::size_t(32));
         line.request(1);
         QVERIFY(line.read(120).empty());
+        QTRY_COMPARE_WITH_TIMEOUT(suit.requestCount(), std::size_t(2), 10000);
         const auto requests = suit.requests();
         QCOMPARE(requests.size(), std::size_t(2));
         QCOMPARE((std::vector<int>{requests[0][0], requests[0][1], requests[0][2], requests[0][3]}),
@@ -140,7 +152,7 @@ private slots:
         Line line(suit.devicePath());
         line.request(1);
         QVERIFY(line.read(45).empty());
-        QCOMPARE(line.read(60).size(), std::size_t(32));
+        QCOMPARE(line.frame().size(), std::size_t(32));
     }
 
     void aScriptIsAnsweredFrameByFrameOverAndOver()
@@ -165,7 +177,7 @@ private slots:
         std::vector<int> firstBytes;
         for (int i = 0; i < 3; ++i) {
             line.request(1);
-            firstBytes.push_back(line.read(30).at(0));
+            firstBytes.push_back(line.frame().at(0));
         }
         QCOMPARE(firstBytes, (std::vector<int>{1, 254, 1}));
     }
