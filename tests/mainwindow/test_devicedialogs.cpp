@@ -140,6 +140,23 @@ private slots:
         QCOMPARE(gDirty, false);
     }
 
+    void aClickOnTheFormOutsideTheFrameClosesTheSummary()
+    {
+        form->CommandConn_Click();
+        DialogDriver driver;
+        bool outsideFrame = false;
+        driver.next([&outsideFrame](QWidget* w) {
+            auto* frame = DialogDriver::find<QGroupBox>(w, QStringLiteral("Frame1"));
+            const QPoint corner(1, 1);
+            outsideFrame = !frame->geometry().contains(corner);
+            QTest::mouseClick(w, Qt::LeftButton, {}, corner);
+        });
+        click(QStringLiteral("CommandShowConfig"));
+        QVERIFY2(driver.finished(), qPrintable(driver.error()));
+        QVERIFY(outsideFrame);
+        QCOMPARE(driver.seen(), (QStringList{"QEL Components & Ports"}));
+    }
+
     void theComponentsDialogFromTheSetupMenuSetsTheCounts()
     {
         gMainConfig.m_iNOSCs = 2;

@@ -318,6 +318,60 @@ private slots:
         QCOMPARE(gScenes.Item(1)->m_strName, QStringLiteral("SCENE 1"));
     }
 
+    void editShowsTheScenesValuesAndCancelChangesNothing()
+    {
+        gMainConfig.m_iNFlash = 2;
+        const auto& scene = gScenes.Item(1);
+        scene->m_strRemarks = QStringLiteral("Quiet start");
+        scene->m_strMovie(0) = QStringLiteral("a.swf");
+        scene->m_strMovie(1) = QStringLiteral("b.swf");
+        clickRow(0);
+        DialogDriver driver;
+        QStringList shown;
+        driver.next([&shown](QWidget* w) {
+            shown << w->windowTitle();
+            for (const char* box : {"TextName", "TextRemarks", "TextMovie(0)", "TextMovie(1)"})
+                shown << DialogDriver::find<QLineEdit>(w, QString::fromLatin1(box))->text();
+            shown << DialogDriver::find<QLabel>(w, QStringLiteral("LabelNumScene"))->text();
+            DialogDriver::type(w, QStringLiteral("TextName"), QStringLiteral("Other"));
+            DialogDriver::type(w, QStringLiteral("TextMovie(1)"), QStringLiteral("c.swf"));
+            DialogDriver::click(w, QStringLiteral("CommandCancel"));
+        });
+        session.menu("EditScene")->trigger();
+        QVERIFY2(driver.finished(), qPrintable(driver.error()));
+        QCOMPARE(shown, (QStringList{"Edit Scene", "SCENE 1", "Quiet start", "a.swf", "b.swf", "0"}));
+        QCOMPARE(scene->m_strName, QStringLiteral("SCENE 1"));
+        QCOMPARE(scene->m_strMovie(1), QStringLiteral("b.swf"));
+        QCOMPARE(sceneRows().first(), QStringLiteral("000  SCENE 1"));
+        QCOMPARE(selectedRows(), (QList<int>{0}));
+        QCOMPARE(gDirty, false);
+    }
+
+    void editWithTheButtonStoresTheTypedMovieWithoutAQuestion()
+    {
+        gMainConfig.m_iNFlash = 2;
+        makeScenes(3);
+        gScenes.Item(2)->m_strMovie(0) = QStringLiteral("a.swf");
+        gScenes.Item(2)->m_strMovie(1) = QStringLiteral("b.swf");
+        clickRow(1);
+        DialogDriver driver;
+        driver.next([](QWidget* w) {
+            DialogDriver::type(w, QStringLiteral("TextRemarks"), QStringLiteral("Second Act"));
+            DialogDriver::type(w, QStringLiteral("TextMovie(1)"), QStringLiteral("c.SWF"));
+            DialogDriver::click(w, QStringLiteral("CommandOK"));
+        });
+        click(QStringLiteral("CommandEdit"));
+        QVERIFY2(driver.finished(), qPrintable(driver.error()));
+        QCOMPARE(driver.seen().size(), 1);   // every movie ends in .swf: nothing is asked
+        QCOMPARE(gScenes.Item(2)->m_strRemarks, QStringLiteral("Second Act"));
+        QCOMPARE(gScenes.Item(2)->m_strMovie(0), QStringLiteral("a.swf"));
+        QCOMPARE(gScenes.Item(2)->m_strMovie(1), QStringLiteral("c.SWF"));
+        QCOMPARE(sceneNames(), (QStringList{"S0", "S1", "S2"}));
+        QCOMPARE(selectedRows(), (QList<int>{1}));
+        QCOMPARE(gCurrentScene, qint16(1));
+        QCOMPARE(gDirty, true);
+    }
+
     // ---------------------------------------------------------------- remove
 
     void removingTheOnlySceneShowsTheMessage()
@@ -462,6 +516,30 @@ private slots:
         click(QStringLiteral("CommandUp"));
         QCOMPARE(gScenes.Item(150)->m_strName, QStringLiteral("S150"));
         QVERIFY(scenes()->topLevelItem(149)->isSelected());
+    }
+
+    void aSceneBeyondTheTableOfFlagsIsNotMovedDownAndTheErrorIsIgnored()
+    {
+        makeScenes(203);
+        // Row 200 reads the flag at 201, outside the table: the error is ignored and the row skipped.
+        clickRow(200);
+        click(QStringLiteral("CommandDown"));
+        QCOMPARE(gScenes.Item(201)->m_strName, QStringLiteral("S200"));
+        QCOMPARE(gScenes.Item(202)->m_strName, QStringLiteral("S201"));
+        QCOMPARE(scenes()->topLevelItemCount(), 204);
+        QCOMPARE(gDirty, false);
+        // Row 199 reads the flag at 200, inside the table but never set: it counts as moved.
+        clickRow(199);
+        click(QStringLiteral("CommandDown"));
+        QCOMPARE(gScenes.Item(200)->m_strName, QStringLiteral("S199"));
+        QCOMPARE(gDirty, false);
+        // Row 198 reads the flag at 199, the last one set: the move is made.
+        clickRow(198);
+        click(QStringLiteral("CommandDown"));
+        QCOMPARE(gScenes.Item(199)->m_strName, QStringLiteral("S199"));
+        QCOMPARE(gScenes.Item(200)->m_strName, QStringLiteral("S198"));
+        QVERIFY(scenes()->topLevelItem(199)->isSelected());
+        QCOMPARE(gDirty, true);
     }
 
     // ---------------------------------------------------------------- colours
