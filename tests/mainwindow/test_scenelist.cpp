@@ -89,7 +89,12 @@ private:
         QStringList texts;
         DialogDriver driver;
         driver.next([&texts, button](QWidget* w) {
+            auto* box = qobject_cast<QMessageBox*>(w);
             texts << w->windowTitle() << DialogDriver::text(w);
+            if (box && box->icon() != QMessageBox::NoIcon)
+                texts << QStringLiteral("icon %1").arg(int(box->icon()));
+            if (box)
+                texts << QStringLiteral("buttons %1").arg(int(box->standardButtons()), 0, 16);
             DialogDriver::press(w, button);
         });
         form->activateWindow();
@@ -378,7 +383,8 @@ private slots:
     {
         clickRow(0);
         const QStringList texts = removeThroughMenu(QMessageBox::Ok);
-        QCOMPARE(texts, (QStringList{"Can't delete scene", "Every performance must have at least one scene"}));
+        QCOMPARE(texts, (QStringList{"Can't delete scene", "Every performance must have at least one scene",
+                                     QStringLiteral("buttons %1").arg(int(QMessageBox::Ok), 0, 16)}));
         QCOMPARE(gScenes.Count(), 1);
         QCOMPARE(sceneRows(), (QStringList{"000  SCENE 1", ""}));
         QCOMPARE(gDirty, false);
@@ -389,7 +395,8 @@ private slots:
         makeScenes(3);
         clickRow(1);
         const QStringList texts = removeThroughMenu(QMessageBox::No);
-        QCOMPARE(texts, (QStringList{"QEL Setup", "Delete Scene?"}));
+        QCOMPARE(texts, (QStringList{"QEL Setup", "Delete Scene?",
+                                     QStringLiteral("buttons %1").arg(int(QMessageBox::Yes | QMessageBox::No), 0, 16)}));
         QCOMPARE(sceneNames(), (QStringList{"S0", "S1", "S2"}));
         QCOMPARE(gDirty, false);
     }
