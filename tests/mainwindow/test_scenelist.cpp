@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <QProcess>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -135,6 +136,31 @@ private slots:
         QCOMPARE(gDirty, true);
         QCOMPARE(form->iSelectedRow, qint16(-1));
         QVERIFY(selectedRows().isEmpty());
+    }
+
+    void theScenesMenuAddsLikeTheButton()
+    {
+        QMenu* menu = form->findChild<QMenu*>(QStringLiteral("ScenesParts"));
+        QVERIFY(menu);
+        QCOMPARE(menu->title(), QStringLiteral("&Scenes"));
+        QStringList entries;
+        for (QAction* a : menu->actions())
+            entries << a->objectName() + QLatin1Char('=') + a->text();
+        QVERIFY(entries.contains(QStringLiteral("AddScene=&Add")));
+        QVERIFY(entries.contains(QStringLiteral("EditScene=&Edit")));
+        QVERIFY(entries.contains(QStringLiteral("Remove=&Remove")));
+        makeScenes(2);
+        clickRow(1);
+        DialogDriver driver;
+        driver.next([](QWidget* w) {
+            DialogDriver::type(w, QStringLiteral("TextName"), QStringLiteral("Bridge"));
+            DialogDriver::click(w, QStringLiteral("CommandOK"));
+        });
+        session.menu("AddScene")->trigger();
+        QVERIFY2(driver.finished(), qPrintable(driver.error()));
+        QCOMPARE(sceneNames(), (QStringList{"S0", "BRIDGE", "S1"}));
+        QCOMPARE(gScenes.Item(3)->m_iID, qint16(2));
+        QCOMPARE(selectedRows(), (QList<int>{1}));
     }
 
     void withSceneTwoSelectedAddInsertsAtIndexTwo()
