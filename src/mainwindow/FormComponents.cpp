@@ -5,6 +5,12 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include "devices/FormArduinoConfig.h"
+#include "devices/FormDisplayConfig.h"
+#include "devices/FormFlashConfig.h"
+#include "devices/FormOSCConfig.h"
+#include "devices/FormTotemsConfig.h"
+#include "mainwindow/FormInitial.h"
 #include "model/CMainConfig.h"
 #include "model/ModuleGlobals.h"
 #include "support/Controls.h"
@@ -55,6 +61,7 @@ FormComponents::FormComponents(QWidget* owner) : QDialog(owner)
     connect(CommandOK, &QPushButton::clicked, this, &FormComponents::CommandOK_Click);
     connect(CommandCancel, &QPushButton::clicked, this, &FormComponents::CommandCancel_Click);
     connect(ExoskeletonsCalibration, &QPushButton::clicked, this, &FormComponents::ExoskeletonsCalibration_Click);
+    connect(CommandItems, &QPushButton::clicked, this, &FormComponents::CommandItems_Click);
     connect(CommandOSC, &QPushButton::clicked, this, &FormComponents::CommandOSC_Click);
     connect(ArduinoConfig, &QPushButton::clicked, this, &FormComponents::ArduinoConfig_Click);
     connect(CommandScreen, &QPushButton::clicked, this, &FormComponents::CommandScreen_Click);
@@ -96,15 +103,75 @@ void FormComponents::CommandOK_Click()
 void FormComponents::CommandCancel_Click() { reject(); }
 
 namespace {
-void sayNone(int count, const char* message)
+// False, after the message, when there is no device to configure.
+bool devicesToConfigure(int count, const char* message)
 {
-    if (count == 0)
+    if (count == 0) {
         MsgBoxExclamation(QString::fromLatin1(message));
+        return false;
+    }
+    return true;
 }
 } // namespace
 
-void FormComponents::ExoskeletonsCalibration_Click() { sayNone(ComboNExos->currentIndex(), "No Exoskeletons!"); }
-void FormComponents::CommandOSC_Click() { sayNone(ComboNOSCs->currentIndex(), "No OSC connections!"); }
-void FormComponents::ArduinoConfig_Click() { sayNone(ComboNArduinos->currentIndex(), "No Arduinos!"); }
-void FormComponents::CommandScreen_Click() { sayNone(ComboNScreens->currentIndex(), "No QEL Screen Managers to configure!"); }
-void FormComponents::CommandFlash_Click() { sayNone(ComboNFlash->currentIndex(), "No Flash players!"); }
+void FormComponents::runDeviceDialog(QDialog& dialog)
+{
+    gMainConfig.m_bUpdate = false;
+    dialog.exec();
+    if (gMainConfig.m_bUpdate)
+        gMainConfig.m_bUpdate = false;
+}
+
+void FormComponents::ExoskeletonsCalibration_Click()
+{
+    if (auto* panel = qobject_cast<FormInitial*>(parentWidget()))
+        panel->ExoskeletonsCalibration_Click();
+}
+
+void FormComponents::CommandItems_Click()
+{
+    // Opens with no joysticks as well: the dialog then shows no rows.
+    FormTotemsConfig dialog(this);
+    dialog.iNumTotems = static_cast<qint16>(ComboNTotems->currentIndex());
+    runDeviceDialog(dialog);
+}
+
+void FormComponents::CommandOSC_Click()
+{
+    const int count = ComboNOSCs->currentIndex();
+    if (!devicesToConfigure(count, "No OSC connections!"))
+        return;
+    FormOSCConfig dialog(this);
+    dialog.iNumOSCs = static_cast<qint16>(count);
+    runDeviceDialog(dialog);
+}
+
+void FormComponents::ArduinoConfig_Click()
+{
+    const int count = ComboNArduinos->currentIndex();
+    if (!devicesToConfigure(count, "No Arduinos!"))
+        return;
+    FormArduinoConfig dialog(this);
+    dialog.iNumArduinos = static_cast<qint16>(count);
+    runDeviceDialog(dialog);
+}
+
+void FormComponents::CommandScreen_Click()
+{
+    const int count = ComboNScreens->currentIndex();
+    if (!devicesToConfigure(count, "No QEL Screen Managers to configure!"))
+        return;
+    FormDisplayConfig dialog(this);
+    dialog.iNumQDMs = static_cast<qint16>(count);
+    runDeviceDialog(dialog);
+}
+
+void FormComponents::CommandFlash_Click()
+{
+    const int count = ComboNFlash->currentIndex();
+    if (!devicesToConfigure(count, "No Flash players!"))
+        return;
+    FormFlashConfig dialog(this);
+    dialog.iNumFlash = static_cast<qint16>(count);
+    runDeviceDialog(dialog);
+}

@@ -31,10 +31,17 @@ public:
     void Form_Load();
     void CommandOK_Click();
     void CommandCancel_Click();
-    // The device buttons: with no device of the kind, a message; the dialogs are opened from the panel.
+    // The device buttons, as on the panel: each takes its count from this form's
+    // list, says so when there is no device and otherwise opens its dialog. The
+    // calibration is the panel's own handler.
     void ExoskeletonsCalibration_Click();
+    void CommandItems_Click();
     void CommandOSC_Click();
     void ArduinoConfig_Click();
     void CommandScreen_Click();
     void CommandFlash_Click();
+
+private:
+    // Shows a device dialog modally with the m_bUpdate hand-over around it.
+    void runDeviceDialog(QDialog& dialog);
 };

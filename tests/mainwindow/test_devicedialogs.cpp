@@ -6,6 +6,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include "devices/FormOSCConfig.h"
+#include "devices/FormTotemsConfig.h"
 #include "mainwindow/FormInitial.h"
 #include "model/CMainConfig.h"
 #include "model/ModuleGlobals.h"
@@ -140,6 +142,23 @@ private slots:
         QCOMPARE(gDirty, false);
     }
 
+    void aClickOnTheFormOutsideTheFrameClosesTheSummary()
+    {
+        form->CommandConn_Click();
+        DialogDriver driver;
+        bool outsideFrame = false;
+        driver.next([&outsideFrame](QWidget* w) {
+            auto* frame = DialogDriver::find<QGroupBox>(w, QStringLiteral("Frame1"));
+            const QPoint corner(1, 1);
+            outsideFrame = !frame->geometry().contains(corner);
+            QTest::mouseClick(w, Qt::LeftButton, {}, corner);
+        });
+        click(QStringLiteral("CommandShowConfig"));
+        QVERIFY2(driver.finished(), qPrintable(driver.error()));
+        QVERIFY(outsideFrame);
+        QCOMPARE(driver.seen(), (QStringList{"QEL Components & Ports"}));
+    }
+
     void theComponentsDialogFromTheSetupMenuSetsTheCounts()
     {
         gMainConfig.m_iNOSCs = 2;
@@ -186,6 +205,60 @@ private slots:
         QCOMPARE(message, QStringLiteral("No QEL Screen Managers to configure!"));
         QCOMPARE(gMainConfig.m_iNExos, qint16(0));
         QCOMPARE(gDirty, false);
+    }
+
+    void theComponentsDialogButtonsOpenTheDialogsWithItsOwnCounts()
+    {
+        gMainConfig.m_iNOSCs = 0;
+        DialogDriver driver;
+        qint16 oscs = -1, totems = -1;
+        bool updateSetByJoysticks = false, updateClearedAfter = false;
+        driver.next([&](QWidget* w) {
+            DialogDriver::pick(w, QStringLiteral("ComboNOSCs"), QStringLiteral("3"));
+            DialogDriver::click(w, QStringLiteral("CommandOSC"));
+            // The joysticks open with none as well.
+            DialogDriver::click(w, QStringLiteral("CommandItems"));
+            updateClearedAfter = !gMainConfig.m_bUpdate;
+            DialogDriver::click(w, QStringLiteral("CommandCancel"));
+        });
+        driver.next([&](QWidget* w) {
+            if (auto* osc = qobject_cast<FormOSCConfig*>(w))
+                oscs = osc->iNumOSCs;
+            DialogDriver::cancel(w);
+        });
+        driver.next([&](QWidget* w) {
+            if (auto* joysticks = qobject_cast<FormTotemsConfig*>(w))
+                totems = joysticks->iNumTotems;
+            DialogDriver::click(w, QStringLiteral("CommandOK"));
+            updateSetByJoysticks = gMainConfig.m_bUpdate;
+        });
+        session.menu("Components")->trigger();
+        QVERIFY2(driver.finished(), qPrintable(driver.error()));
+        QCOMPARE(oscs, qint16(3));
+        QCOMPARE(totems, qint16(0));
+        QVERIFY(updateSetByJoysticks);
+        QVERIFY(updateClearedAfter);
+        QCOMPARE(gMainConfig.m_iNOSCs, qint16(0));   // the components dialog was cancelled
+    }
+
+    void theComponentsCalibrationButtonIsThePanelsAndCountsTheSuitsOfThePerformance()
+    {
+        gMainConfig.m_iNExos = 0;
+        DialogDriver driver;
+        QString message;
+        driver.next([](QWidget* w) {
+            DialogDriver::pick(w, QStringLiteral("ComboNExos"), QStringLiteral("2"));
+            DialogDriver::click(w, QStringLiteral("ExoskeletonsCalibration"));
+            DialogDriver::click(w, QStringLiteral("CommandCancel"));
+        });
+        driver.next([&](QWidget* w) {
+            message = DialogDriver::text(w);
+            DialogDriver::press(w, QMessageBox::Ok);
+        });
+        session.menu("Components")->trigger();
+        QVERIFY2(driver.finished(), qPrintable(driver.error()));
+        QCOMPARE(message, QStringLiteral("No Exoskeletons!"));
+        QCOMPARE(gMainConfig.m_iNExos, qint16(0));
     }
 
     void theRobotsAndSummaryButtonsAreOffered()

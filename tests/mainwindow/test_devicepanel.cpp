@@ -113,6 +113,38 @@ private slots:
         QVERIFY(control<QPushButton>(QStringLiteral("CommandUnlock"))->isVisible());
     }
 
+    void theViewSwitchShowsOneViewAndHidesTheOther()
+    {
+        QStringList ruleView = {"TextSearched", "Label15", "CommandAdd", "ListEvents", "CommandBots", "ListGlobalRules",
+                                "ListMain2", "CommandAddScene", "CommandEdit", "CommandShowConfig", "CommandDelete",
+                                "CommandUp", "CommandDown", "Label1", "Label3", "CheckSource(0)", "CheckTarget(0)"};
+        for (int i = 0; i < 8; ++i)
+            ruleView << QStringLiteral("CommandColor(%1)").arg(i);
+        for (int i = 0; i < 5; ++i)
+            ruleView << QStringLiteral("CommandTargetsFilt(%1)").arg(i);
+        const QStringList deviceView = {"Label8", "Label9", "Label10", "Label11", "Label12", "Label13", "Label14",
+                                        "Label16", "ComboNExos", "ComboNTotems", "ComboNOSCs", "ComboNArduinos",
+                                        "ComboNScreens", "ComboNFlash", "ComboNMIDI", "ComboNVideoCaps",
+                                        "ExoskeletonsCalibration", "CommandItems", "CommandOSC", "ArduinoConfig",
+                                        "CommandScreen", "CommandFlash", "CommandPorts", "txtEvPerSec", "CommandTalpor"};
+        const auto visible = [this](const QStringList& names) {
+            QStringList shown;
+            for (const QString& name : names)
+                if (control<QWidget>(name)->isVisible())
+                    shown << name;
+            return shown;
+        };
+        click(QStringLiteral("CommandConn"));
+        QCOMPARE(visible(ruleView), ruleView);
+        QCOMPARE(visible(deviceView), QStringList());
+        QCOMPARE(visible({"CommandUnlock", "CommandLock"}), QStringList());
+        click(QStringLiteral("CommandRules"));
+        QCOMPARE(visible(ruleView), QStringList());
+        QCOMPARE(visible(deviceView), deviceView);
+        QCOMPARE(visible({"CommandUnlock", "CommandLock"}), QStringList{"CommandUnlock"});
+        QCOMPARE(gDirty, false);
+    }
+
     void anEmptyEventsPerSecondBoxShowsSixteen()
     {
         gMainConfig.m_iEventsPerSec = 30;

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <QProcess>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -89,7 +90,12 @@ private:
         QStringList texts;
         DialogDriver driver;
         driver.next([&texts, button](QWidget* w) {
+            auto* box = qobject_cast<QMessageBox*>(w);
             texts << w->windowTitle() << DialogDriver::text(w);
+            if (box && box->icon() != QMessageBox::NoIcon)
+                texts << QStringLiteral("icon %1").arg(int(box->icon()));
+            if (box)
+                texts << QStringLiteral("buttons %1").arg(int(box->standardButtons()), 0, 16);
             DialogDriver::press(w, button);
         });
         form->activateWindow();
@@ -130,6 +136,31 @@ private slots:
         QCOMPARE(gDirty, true);
         QCOMPARE(form->iSelectedRow, qint16(-1));
         QVERIFY(selectedRows().isEmpty());
+    }
+
+    void theScenesMenuAddsLikeTheButton()
+    {
+        QMenu* menu = form->findChild<QMenu*>(QStringLiteral("ScenesParts"));
+        QVERIFY(menu);
+        QCOMPARE(menu->title(), QStringLiteral("&Scenes"));
+        QStringList entries;
+        for (QAction* a : menu->actions())
+            entries << a->objectName() + QLatin1Char('=') + a->text();
+        QVERIFY(entries.contains(QStringLiteral("AddScene=&Add")));
+        QVERIFY(entries.contains(QStringLiteral("EditScene=&Edit")));
+        QVERIFY(entries.contains(QStringLiteral("Remove=&Remove")));
+        makeScenes(2);
+        clickRow(1);
+        DialogDriver driver;
+        driver.next([](QWidget* w) {
+            DialogDriver::type(w, QStringLiteral("TextName"), QStringLiteral("Bridge"));
+            DialogDriver::click(w, QStringLiteral("CommandOK"));
+        });
+        session.menu("AddScene")->trigger();
+        QVERIFY2(driver.finished(), qPrintable(driver.error()));
+        QCOMPARE(sceneNames(), (QStringList{"S0", "BRIDGE", "S1"}));
+        QCOMPARE(gScenes.Item(3)->m_iID, qint16(2));
+        QCOMPARE(selectedRows(), (QList<int>{1}));
     }
 
     void withSceneTwoSelectedAddInsertsAtIndexTwo()
@@ -318,13 +349,68 @@ private slots:
         QCOMPARE(gScenes.Item(1)->m_strName, QStringLiteral("SCENE 1"));
     }
 
+    void editShowsTheScenesValuesAndCancelChangesNothing()
+    {
+        gMainConfig.m_iNFlash = 2;
+        const auto& scene = gScenes.Item(1);
+        scene->m_strRemarks = QStringLiteral("Quiet start");
+        scene->m_strMovie(0) = QStringLiteral("a.swf");
+        scene->m_strMovie(1) = QStringLiteral("b.swf");
+        clickRow(0);
+        DialogDriver driver;
+        QStringList shown;
+        driver.next([&shown](QWidget* w) {
+            shown << w->windowTitle();
+            for (const char* box : {"TextName", "TextRemarks", "TextMovie(0)", "TextMovie(1)"})
+                shown << DialogDriver::find<QLineEdit>(w, QString::fromLatin1(box))->text();
+            shown << DialogDriver::find<QLabel>(w, QStringLiteral("LabelNumScene"))->text();
+            DialogDriver::type(w, QStringLiteral("TextName"), QStringLiteral("Other"));
+            DialogDriver::type(w, QStringLiteral("TextMovie(1)"), QStringLiteral("c.swf"));
+            DialogDriver::click(w, QStringLiteral("CommandCancel"));
+        });
+        session.menu("EditScene")->trigger();
+        QVERIFY2(driver.finished(), qPrintable(driver.error()));
+        QCOMPARE(shown, (QStringList{"Edit Scene", "SCENE 1", "Quiet start", "a.swf", "b.swf", "0"}));
+        QCOMPARE(scene->m_strName, QStringLiteral("SCENE 1"));
+        QCOMPARE(scene->m_strMovie(1), QStringLiteral("b.swf"));
+        QCOMPARE(sceneRows().first(), QStringLiteral("000  SCENE 1"));
+        QCOMPARE(selectedRows(), (QList<int>{0}));
+        QCOMPARE(gDirty, false);
+    }
+
+    void editWithTheButtonStoresTheTypedMovieWithoutAQuestion()
+    {
+        gMainConfig.m_iNFlash = 2;
+        makeScenes(3);
+        gScenes.Item(2)->m_strMovie(0) = QStringLiteral("a.swf");
+        gScenes.Item(2)->m_strMovie(1) = QStringLiteral("b.swf");
+        clickRow(1);
+        DialogDriver driver;
+        driver.next([](QWidget* w) {
+            DialogDriver::type(w, QStringLiteral("TextRemarks"), QStringLiteral("Second Act"));
+            DialogDriver::type(w, QStringLiteral("TextMovie(1)"), QStringLiteral("c.SWF"));
+            DialogDriver::click(w, QStringLiteral("CommandOK"));
+        });
+        click(QStringLiteral("CommandEdit"));
+        QVERIFY2(driver.finished(), qPrintable(driver.error()));
+        QCOMPARE(driver.seen().size(), 1);   // every movie ends in .swf: nothing is asked
+        QCOMPARE(gScenes.Item(2)->m_strRemarks, QStringLiteral("Second Act"));
+        QCOMPARE(gScenes.Item(2)->m_strMovie(0), QStringLiteral("a.swf"));
+        QCOMPARE(gScenes.Item(2)->m_strMovie(1), QStringLiteral("c.SWF"));
+        QCOMPARE(sceneNames(), (QStringList{"S0", "S1", "S2"}));
+        QCOMPARE(selectedRows(), (QList<int>{1}));
+        QCOMPARE(gCurrentScene, qint16(1));
+        QCOMPARE(gDirty, true);
+    }
+
     // ---------------------------------------------------------------- remove
 
     void removingTheOnlySceneShowsTheMessage()
     {
         clickRow(0);
         const QStringList texts = removeThroughMenu(QMessageBox::Ok);
-        QCOMPARE(texts, (QStringList{"Can't delete scene", "Every performance must have at least one scene"}));
+        QCOMPARE(texts, (QStringList{"Can't delete scene", "Every performance must have at least one scene",
+                                     QStringLiteral("buttons %1").arg(int(QMessageBox::Ok), 0, 16)}));
         QCOMPARE(gScenes.Count(), 1);
         QCOMPARE(sceneRows(), (QStringList{"000  SCENE 1", ""}));
         QCOMPARE(gDirty, false);
@@ -335,7 +421,8 @@ private slots:
         makeScenes(3);
         clickRow(1);
         const QStringList texts = removeThroughMenu(QMessageBox::No);
-        QCOMPARE(texts, (QStringList{"QEL Setup", "Delete Scene?"}));
+        QCOMPARE(texts, (QStringList{"QEL Setup", "Delete Scene?",
+                                     QStringLiteral("buttons %1").arg(int(QMessageBox::Yes | QMessageBox::No), 0, 16)}));
         QCOMPARE(sceneNames(), (QStringList{"S0", "S1", "S2"}));
         QCOMPARE(gDirty, false);
     }
@@ -462,6 +549,30 @@ private slots:
         click(QStringLiteral("CommandUp"));
         QCOMPARE(gScenes.Item(150)->m_strName, QStringLiteral("S150"));
         QVERIFY(scenes()->topLevelItem(149)->isSelected());
+    }
+
+    void aSceneBeyondTheTableOfFlagsIsNotMovedDownAndTheErrorIsIgnored()
+    {
+        makeScenes(203);
+        // Row 200 reads the flag at 201, outside the table: the error is ignored and the row skipped.
+        clickRow(200);
+        click(QStringLiteral("CommandDown"));
+        QCOMPARE(gScenes.Item(201)->m_strName, QStringLiteral("S200"));
+        QCOMPARE(gScenes.Item(202)->m_strName, QStringLiteral("S201"));
+        QCOMPARE(scenes()->topLevelItemCount(), 204);
+        QCOMPARE(gDirty, false);
+        // Row 199 reads the flag at 200, inside the table but never set: it counts as moved.
+        clickRow(199);
+        click(QStringLiteral("CommandDown"));
+        QCOMPARE(gScenes.Item(200)->m_strName, QStringLiteral("S199"));
+        QCOMPARE(gDirty, false);
+        // Row 198 reads the flag at 199, the last one set: the move is made.
+        clickRow(198);
+        click(QStringLiteral("CommandDown"));
+        QCOMPARE(gScenes.Item(199)->m_strName, QStringLiteral("S199"));
+        QCOMPARE(gScenes.Item(200)->m_strName, QStringLiteral("S198"));
+        QVERIFY(scenes()->topLevelItem(199)->isSelected());
+        QCOMPARE(gDirty, true);
     }
 
     // ---------------------------------------------------------------- colours
