@@ -57,13 +57,26 @@ class TestRuleEndToEnd : public QObject {
         gCurrentPart = 0;
         gGlobalRuleView = false;
         w()->RefreshRuleView();
-        w()->iSelectedRule = -1;
+        if (!w()->ListEvents->isVisible())
+            w()->CommandConn->click();
+        QVERIFY(w()->ListEvents->isVisible());
+    }
+
+    // A click on a row of the rule list with the mouse, as a person selects a rule.
+    void clickRow(int row)
+    {
+        QTreeWidgetItem* item = w()->ListEvents->topLevelItem(row);
+        QVERIFY(item);
+        w()->ListEvents->scrollToItem(item);
+        QTest::mouseClick(w()->ListEvents->viewport(), Qt::LeftButton, {},
+                          w()->ListEvents->visualItemRect(item).center());
     }
 
     // "Add rule" with the trailing row selected, the editor driven by `steps`, then OK.
     void addRule(const Steps& steps)
     {
-        w()->iSelectedRule = -1;
+        clickRow(w()->ListEvents->topLevelItemCount() - 1);
+        QCOMPARE(w()->iSelectedRule, qint16(-1));
         DialogDriver driver;
         driver.next([&](QWidget* d) {
             steps(d);
@@ -298,12 +311,10 @@ private slots:
         gTargetFilter(9) = false;
         w()->RefreshRuleView();
         QCOMPARE(w()->ListEvents->topLevelItemCount(), 3);   // rules 2, 4 and the empty row
-        w()->ListEvents->clearSelection();
-        w()->ListEvents->topLevelItem(1)->setSelected(true);
+        clickRow(1);
         session.menu("Cut")->trigger();
-        w()->ListEvents->clearSelection();
-        w()->ListEvents->topLevelItem(0)->setSelected(true);
-        w()->iSelectedRule = 1;   // the row of rule 2
+        clickRow(0);
+        QCOMPARE(w()->iSelectedRule, qint16(1));   // the row of rule 2
         session.menu("Paste")->trigger();
         gTargetFilter(9) = true;
         w()->RefreshRuleView();
