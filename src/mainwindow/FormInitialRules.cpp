@@ -216,8 +216,14 @@ namespace {
 // The subscene whose rules the list shows.
 CPart& currentPart() { return *gScenes(gCurrentScene + 1)->PartList(gCurrentPart + 1); }
 
-// The number in a row's text; an empty text is 0.
-qint16 rowNumber(QTreeWidget* list, int row) { return ParseInteger(list->topLevelItem(row)->text(0)); }
+// The number in a row's text; an empty text is 0. A row that isn't there is a run-time error.
+qint16 rowNumber(QTreeWidget* list, int row)
+{
+    QTreeWidgetItem* item = list->topLevelItem(row);
+    if (!item)
+        throw RangeError();
+    return ParseInteger(item->text(0));
+}
 
 // The rule at a 1-based position of the list on show.
 std::shared_ptr<CEvent> ruleAt(int position)

@@ -28,10 +28,13 @@ void FormAddEditAudioInter::CommandOK_Click()
             return;
         CommandAdd_Click();
     }
-    const qint16 interTypeNow = InterTypeFromText(ComboInterType->currentText());
-    const qint16 sense = SenseFromText(ComboSense->currentText());
-    const qint16 sourceType = SourceTypeFromText(ComboSourceType->currentText());
-    const qint16 source = TargetIndexFromText(ComboSource->currentText(), listIndex(ComboSource), sourceType);
+    // The source fields are handed over now, ahead of the checks.
+    gRuleInterType = InterTypeFromText(ComboInterType->currentText());
+    gRuleSense = SenseFromText(ComboSense->currentText());
+    gRuleSourceType = SourceTypeFromText(ComboSourceType->currentText());
+    gRuleSource = TargetIndexFromText(ComboSource->currentText(), listIndex(ComboSource), gRuleSourceType);
+    const qint16 sourceType = gRuleSourceType;
+    const qint16 source = gRuleSource;
 
     if (shown(TextMinSource) && shown(TextMaxSource)) {
         // A text that is no number counts as 0 here; the number checks come later.
@@ -63,10 +66,6 @@ void FormAddEditAudioInter::CommandOK_Click()
         return refuse(Label3->text() + QStringLiteral(" field must be filled in"));
 
     gDirty = true;
-    gRuleInterType = interTypeNow;
-    gRuleSense = sense;
-    gRuleSourceType = sourceType;
-    gRuleSource = source;
     if (shown(ComboItem)) {
         gRuleItem = TextToItem(ComboItem->currentText(), sourceType, source);
         if (gRuleItem == -1)

@@ -1,6 +1,7 @@
 // A performance's rules from end to end: written through "Add rule" and the
 // rule editor, listed, edited, saved, and read back in a fresh start.
 #include "MainWindowSession.h"
+#include <QHeaderView>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTreeWidget>
@@ -57,13 +58,26 @@ class TestRuleEndToEnd : public QObject {
         gCurrentPart = 0;
         gGlobalRuleView = false;
         w()->RefreshRuleView();
-        w()->iSelectedRule = -1;
+        if (!w()->ListEvents->isVisible())
+            w()->CommandConn->click();
+        QVERIFY(w()->ListEvents->isVisible());
+    }
+
+    // A click on a row of the rule list with the mouse, as a person selects a rule.
+    void clickRow(int row)
+    {
+        QTreeWidgetItem* item = w()->ListEvents->topLevelItem(row);
+        QVERIFY(item);
+        w()->ListEvents->scrollToItem(item);
+        QTest::mouseClick(w()->ListEvents->viewport(), Qt::LeftButton, {},
+                          w()->ListEvents->visualItemRect(item).center());
     }
 
     // "Add rule" with the trailing row selected, the editor driven by `steps`, then OK.
     void addRule(const Steps& steps)
     {
-        w()->iSelectedRule = -1;
+        clickRow(w()->ListEvents->topLevelItemCount() - 1);
+        QCOMPARE(w()->iSelectedRule, qint16(-1));
         DialogDriver driver;
         driver.next([&](QWidget* d) {
             steps(d);
@@ -298,12 +312,10 @@ private slots:
         gTargetFilter(9) = false;
         w()->RefreshRuleView();
         QCOMPARE(w()->ListEvents->topLevelItemCount(), 3);   // rules 2, 4 and the empty row
-        w()->ListEvents->clearSelection();
-        w()->ListEvents->topLevelItem(1)->setSelected(true);
+        clickRow(1);
         session.menu("Cut")->trigger();
-        w()->ListEvents->clearSelection();
-        w()->ListEvents->topLevelItem(0)->setSelected(true);
-        w()->iSelectedRule = 1;   // the row of rule 2
+        clickRow(0);
+        QCOMPARE(w()->iSelectedRule, qint16(1));   // the row of rule 2
         session.menu("Paste")->trigger();
         gTargetFilter(9) = true;
         w()->RefreshRuleView();
@@ -317,6 +329,44 @@ private slots:
         QVERIFY(events.open(QIODevice::ReadOnly));
         const QByteArray file = events.readAll();
         QVERIFY(ruleBlock(file, 1).startsWith("1;0;0;00_00;r4;"));
+        QVERIFY(ruleBlock(file, 2).startsWith("2;0;0;00_00;r2;"));
+    }
+
+    void clipboardOnADescendingListReachesTheFile()
+    {
+        startWithDevices();
+        for (int i = 1; i <= 3; ++i)
+            addRule([i](QWidget* d) {
+                pick(d, "ComboTargetType", "QEL");
+                type(d, "TextRemarks", QStringLiteral("r%1").arg(i));
+            });
+        QHeaderView* header = w()->ListEvents->header();
+        const QPoint numberColumn(header->sectionViewportPosition(0) + header->sectionSize(0) / 2, header->height() / 2);
+        auto firstRow = [&] { return w()->ListEvents->topLevelItem(0)->text(0); };
+        for (int i = 0; i < 2 && firstRow() != QLatin1String("3"); ++i)
+            QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, numberColumn);
+        QCOMPARE(firstRow(), QString("3"));
+        // Rows 3 and 2 picked; the cut counts as if the rows ascended, and so takes rules 3 and 1.
+        clickRow(0);
+        QTest::mouseClick(w()->ListEvents->viewport(), Qt::LeftButton, Qt::ControlModifier,
+                          w()->ListEvents->visualItemRect(w()->ListEvents->topLevelItem(1)).center());
+        session.menu("Cut")->trigger();
+        clickRow(w()->ListEvents->topLevelItemCount() - 1);
+        session.menu("Paste")->trigger();
+        QStringList order;
+        for (const auto& r : Part().AudioEvents)
+            order << r->m_strRemarks;
+        QCOMPARE(order, (QStringList{"r2", "r3", "r2"}));
+        QStringList rows;
+        for (int i = 0; i < w()->ListEvents->topLevelItemCount(); ++i)
+            rows << w()->ListEvents->topLevelItem(i)->text(0);
+        QCOMPARE(rows, (QStringList{"1", "2", "3", ""}));
+        session.saveAs(native(dir.filePath("sorted.qel")));
+        QFile events(PerformanceFilePath(gMainConfig.m_strEventsFile));
+        QVERIFY(events.open(QIODevice::ReadOnly));
+        const QByteArray file = events.readAll();
+        QVERIFY(ruleBlock(file, 0).startsWith("0;0;0;00_00;r2;"));
+        QVERIFY(ruleBlock(file, 1).startsWith("1;0;0;00_00;r3;"));
         QVERIFY(ruleBlock(file, 2).startsWith("2;0;0;00_00;r2;"));
     }
 };

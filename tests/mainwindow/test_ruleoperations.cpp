@@ -1,6 +1,8 @@
 // The rule operations of the main window: add and edit through the rule
 // editor, copy, cut, paste and remove, with their position arithmetic.
 #include "MainWindowSession.h"
+#include <QApplication>
+#include <QHeaderView>
 #include <QPushButton>
 #include <QTreeWidget>
 #include "../ruleeditor/EditorTestHelpers.h"
@@ -52,18 +54,49 @@ class TestRuleOperations : public QObject {
                 rows << i;
         return rows;
     }
+    // The rule list is on show, and the window active, so that rows can be clicked and focused.
+    void showList()
+    {
+        if (!w->ListEvents->isVisible())
+            w->CommandConn->click();
+        QVERIFY(w->ListEvents->isVisible());
+        w->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(w));
+    }
+    // A click on a row with the mouse, as a person selects a rule; Ctrl adds it to the selection.
+    void clickRow(int row, Qt::KeyboardModifiers modifiers = {})
+    {
+        QTreeWidgetItem* item = w->ListEvents->topLevelItem(row);
+        QVERIFY(item);
+        w->ListEvents->scrollToItem(item);
+        QTest::mouseClick(w->ListEvents->viewport(), Qt::LeftButton, modifiers,
+                          w->ListEvents->visualItemRect(item).center());
+    }
+    // A click in the empty part of the list, below the rows: no row is under the pointer.
+    void clickBelowTheRows()
+    {
+        QTreeWidgetItem* last = w->ListEvents->topLevelItem(w->ListEvents->topLevelItemCount() - 1);
+        const QRect r = w->ListEvents->visualItemRect(last);
+        const QPoint at(r.center().x(), r.bottom() + 3 * r.height());
+        QVERIFY(w->ListEvents->viewport()->rect().contains(at));
+        QVERIFY(!w->ListEvents->itemAt(at));
+        QTest::mouseClick(w->ListEvents->viewport(), Qt::LeftButton, {}, at);
+    }
+    // Rows picked by a click on the first and Ctrl-clicks on the others.
     void selectRows(const QList<int>& rows)
     {
-        w->ListEvents->clearSelection();
-        for (int r : rows)
-            w->ListEvents->topLevelItem(r)->setSelected(true);
+        for (int i = 0; i < rows.size(); ++i)
+            clickRow(rows[i], i == 0 ? Qt::KeyboardModifiers() : Qt::KeyboardModifiers(Qt::ControlModifier));
+        QCOMPARE(selectedRows(), rows);
     }
-    // A click on a row as the rule list records it: the rule's position minus 1, -1 for the trailing row.
-    void clickRow(int row)
+    // The Remove menu entry with the rule list holding the focus; the question answered.
+    QString removeFromTheMenu(QMessageBox::StandardButton answer)
     {
-        selectRows({row});
-        const QString text = w->ListEvents->topLevelItem(row)->text(0);
-        w->iSelectedRule = text.isEmpty() ? qint16(-1) : qint16(text.toInt() - 1);
+        w->activateWindow();
+        [&] { QVERIFY(QTest::qWaitForWindowActive(w)); }();
+        w->ListEvents->setFocus();
+        [&] { QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(w->ListEvents)); }();
+        return Box([&] { session.menu("Remove")->trigger(); }, answer);
     }
 
 private slots:
@@ -71,6 +104,7 @@ private slots:
     {
         session.start();
         w = session.form.get();
+        showList();
     }
     void cleanupTestCase() { session.stop(); }
     void init()
@@ -80,8 +114,9 @@ private slots:
         gTargetFilter.Fill(true);
         gClipboard.Clear();
         gMaxEventsPerPart = 0;
-        w->iSelectedRule = -1;
         refill();
+        clickBelowTheRows();
+        QCOMPARE(w->iSelectedRule, qint16(-1));
     }
 
     void pasteAheadOfTheSelectedRule()
@@ -105,6 +140,7 @@ private slots:
         refill();
         selectRows({0});
         session.menu("Copy")->trigger();
+        clickRow(2);   // the trailing row: the copies go to the end
         session.menu("Paste")->trigger();
         session.menu("Paste")->trigger();
         QCOMPARE(Order(), (QStringList{"r1", "r2", "r1", "r1"}));
@@ -127,7 +163,8 @@ private slots:
         session.menu("Cut")->trigger();
         QCOMPARE(Order(), (QStringList{"r3", "r4"}));
         QCOMPARE(rowTexts(), (QStringList{"1", "2", ""}));
-        w->iSelectedRule = -1;
+        clickBelowTheRows();
+        QCOMPARE(w->iSelectedRule, qint16(-1));
         session.menu("Paste")->trigger();
         QCOMPARE(Order(), (QStringList{"r3", "r4", "r1", "r2"}));
         QCOMPARE(selectedRows(), (QList<int>{2, 3}));
@@ -151,12 +188,11 @@ private slots:
     {
         MakeRules(5);
         refill();
-        // Rows as a descending sort leaves them: 5, 4, 3, 2, 1, then the empty row.
-        QList<QTreeWidgetItem*> rows;
-        while (w->ListEvents->topLevelItemCount() > 1)
-            rows << w->ListEvents->takeTopLevelItem(0);
-        for (QTreeWidgetItem* row : rows)
-            w->ListEvents->insertTopLevelItem(0, row);
+        // A click on the number column's header sorts; the order flips on each click.
+        QHeaderView* header = w->ListEvents->header();
+        const QPoint numberColumn(header->sectionViewportPosition(0) + header->sectionSize(0) / 2, header->height() / 2);
+        for (int i = 0; i < 2 && rowTexts() != QStringList{"5", "4", "3", "2", "1", ""}; ++i)
+            QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, numberColumn);
         QCOMPARE(rowTexts(), (QStringList{"5", "4", "3", "2", "1", ""}));
         selectRows({0, 1});
         session.menu("Cut")->trigger();
@@ -171,7 +207,7 @@ private slots:
         refill();
         selectRows({1});
         w->ListEvents->setFocus();
-        QCOMPARE(Box([&] { w->RemoveSelectedRules(); }, QMessageBox::No),
+        QCOMPARE(removeFromTheMenu(QMessageBox::No),
                  QString("QEL Setup|Delete events?|%1").arg(int(QMessageBox::NoIcon)));
         QCOMPARE(Order(), (QStringList{"r1", "r2", "r3"}));
         QVERIFY(!gDirty);
@@ -184,7 +220,7 @@ private slots:
         refill();
         selectRows({1, 3});
         w->ListEvents->setFocus();
-        QCOMPARE(Box([&] { w->RemoveSelectedRules(); }, QMessageBox::Yes),
+        QCOMPARE(removeFromTheMenu(QMessageBox::Yes),
                  QString("QEL Setup|Delete events?|%1").arg(int(QMessageBox::NoIcon)));
         QCOMPARE(Order(), (QStringList{"r1", "r3", "r5"}));
         QVERIFY(gDirty);
@@ -200,7 +236,7 @@ private slots:
         QCOMPARE(rowTexts(), (QStringList{"2", "5", "7", ""}));
         selectRows({1, 2});
         w->ListEvents->setFocus();
-        Box([&] { w->RemoveSelectedRules(); }, QMessageBox::Yes);
+        removeFromTheMenu(QMessageBox::Yes);
         gTargetFilter(6) = true;
         QCOMPARE(Order(), (QStringList{"r1", "r2", "r3", "r4", "r7"}));
     }
@@ -210,7 +246,7 @@ private slots:
         MakeRules(2);
         refill();
         selectRows({2});
-        Box([&] { w->RemoveSelectedRules(); }, QMessageBox::Yes);
+        removeFromTheMenu(QMessageBox::Yes);
         QCOMPARE(Order(), (QStringList{"r1", "r2"}));
         QVERIFY(gDirty);
     }
@@ -226,7 +262,7 @@ private slots:
         QCOMPARE(Part().AudioEvents.Count(), 4);
         QCOMPARE(gMaxEventsPerPart, qint16(4));
         selectRows({0, 1, 2});
-        Box([&] { w->RemoveSelectedRules(); }, QMessageBox::Yes);
+        removeFromTheMenu(QMessageBox::Yes);
         QCOMPARE(Part().AudioEvents.Count(), 1);
         QCOMPARE(gMaxEventsPerPart, qint16(4));
     }
@@ -242,7 +278,7 @@ private slots:
         rule->Event = MakeRule(0, 0, 1, -1);
         rule->Event->m_strRemarks = "pasted";
         gClipboard.Add(rule);
-        w->iSelectedRule = -1;
+        clickBelowTheRows();
         session.menu("Paste")->trigger();
         QCOMPARE(Order(), (QStringList{"r1", "pasted"}));
         QCOMPARE(selectedRows(), QList<int>{1});
@@ -257,11 +293,14 @@ private slots:
         QCOMPARE(Order(), (QStringList{"r1", "r2"}));
     }
 
-    void addAppendsFromTheTrailingRow()
+    void clickOnTheTrailingEmptyRowGivesNoRuleAndAddAppends()
     {
         MakeRules(2);
         refill();
+        clickRow(1);
+        QCOMPARE(w->iSelectedRule, qint16(1));
         clickRow(2);
+        QCOMPARE(w->iSelectedRule, qint16(-1));
         DialogDriver driver;
         driver.next([](QWidget* d) {
             QCOMPARE(d->objectName(), QString("FormAddEditAudioInter"));
@@ -314,6 +353,30 @@ private slots:
         w->CommandAdd->click();
         QVERIFY2(driver.finished(), qPrintable(driver.error()));
         QCOMPARE(Order(), (QStringList{"r1", "r2", "new", "r3", "r4", "r5"}));
+    }
+
+    void addWithAClickedRuleBeyondTheFilteredRowsKeepsTheLastRuleIndex()
+    {
+        MakeRules(5, {2, 4});
+        gTargetFilter(6) = false;
+        refill();
+        QCOMPARE(rowTexts(), (QStringList{"2", "4", ""}));
+        clickRow(1);
+        QCOMPARE(w->iSelectedRule, qint16(3));
+        // The list has no fourth row: the look-up fails and the rule index stays as it was.
+        const qint16 before = gRuleIndex;
+        DialogDriver driver;
+        driver.next([](QWidget* d) {
+            DialogDriver::type(d, "TextRemarks", "new");
+            DialogDriver::click(d, "CommandOK");
+        });
+        w->CommandAdd->click();
+        QVERIFY2(driver.finished(), qPrintable(driver.error()));
+        QCOMPARE(gRuleIndex, before);
+        const int position = (before + 1 < 1 || before + 1 > 5) ? 6 : before + 1;
+        QCOMPARE(Part().AudioEvents.Count(), 6);
+        QCOMPARE(Part().AudioEvents(position)->m_strRemarks, QString("new"));
+        QCOMPARE(gMaxEventsPerPart, qint16(6));
     }
 
     void cancelledAddChangesNothing()

@@ -99,6 +99,24 @@ private slots:
         QVERIFY(!gRuleAccepted);
     }
 
+    void refusedOkHasAlreadyHandedOverTheSourceFields()
+    {
+        auto f = Open(1);
+        Pick(f.get(), "ComboSourceType", "Joystick");
+        Pick(f.get(), "ComboTargetType", "QEL");
+        Type(f.get(), "TextMinSource", "6");
+        Type(f.get(), "TextMaxSource", "5");
+        const qint16 joystick = SourceTypeFromText("Joystick");
+        QVERIFY(joystick != 0);
+        gRuleSourceType = 0;
+        QCOMPARE(Box([&] { Click(f.get(), "CommandOK"); }),
+                 warning("High Th must be greater than Low Th", "QEL Setup: Source Range Error"));
+        QVERIFY(!gRuleAccepted);
+        QCOMPARE(gRuleSourceType, joystick);
+        QCOMPARE(gRuleInterType, InterTypeFromText(f->ComboInterType->currentText()));
+        QCOMPARE(gRuleSource, TargetIndexFromText(f->ComboSource->currentText(), f->ComboSource->currentIndex(), joystick));
+    }
+
     void leadingPointInTheLowerBoundIsRefused()
     {
         auto f = Open(1);
