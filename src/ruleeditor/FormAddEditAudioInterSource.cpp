@@ -302,7 +302,8 @@ void FormAddEditAudioInter::ComboSource_Click()
         }
         LabelMinSource->show();
         LabelMaxSource->show();
-    } else {
+    } else if (const QString moment = ComboSource->currentText();
+               moment == QLatin1String("Begin") || moment == QLatin1String("End")) {
         for (QWidget* w : QList<QWidget*>{TextVarSource, LabelItemVar, TextMinSource, TextMaxSource, LabelMinSource,
                                           LabelMaxSource})
             w->hide();

@@ -289,6 +289,42 @@ private slots:
         QCOMPARE(f->TextVarTarget->text(), QString("v"));
     }
 
+    void storedClipAndSourceValuesShowAsStored()
+    {
+        ConfigureEveryKind();
+        auto osc = MakeRule(1, 8, 0, 0);
+        osc->m_bClip = true;
+        auto midi = MakeRule(0, 6, 0, 0);
+        midi->m_strVal1 = "Any";
+        midi->m_strVal2 = "VAR";
+        auto automatic = MakeRule(0, 0, 0, -1);
+        automatic->m_strVal1 = "Any";
+        Part().AddAudioEvent(osc, 0);
+        Part().AddAudioEvent(midi, 0);
+        Part().AddAudioEvent(automatic, 0);
+        {
+            auto f = Open(2, 0);
+            QVERIFY(f->CheckClip->isChecked());
+            QCOMPARE(f->CheckClip->text(), QString("Binary"));
+            QVERIFY(Shown(f->CheckClip));
+            QCOMPARE(f->ComboValueSource->currentText(), QString("VAR"));
+        }
+        {
+            auto f = Open(2, 1);
+            QVERIFY(!f->CheckClip->isChecked());
+            QCOMPARE(f->ComboValueSource->currentIndex(), 2);
+            QCOMPARE(f->ComboValueSource->currentText(), QString("Any"));
+            QCOMPARE(f->ComboVelSource->currentIndex(), 1);
+            QCOMPARE(f->ComboVelSource->currentText(), QString("VAR"));
+        }
+        {
+            // An automatic source keeps the value list as its kind left it.
+            auto f = Open(2, 2);
+            QCOMPARE(f->ComboSourceType->currentText(), QString("Automatic"));
+            QCOMPARE(f->ComboValueSource->currentIndex(), 0);
+        }
+    }
+
     void groupsListedWithTheCurrentOneSelected()
     {
         Part().AddAudioEvent(MakeRule(0, 0, 0, -1), 0);

@@ -285,6 +285,18 @@ private slots:
         QVERIFY(!Shown(f->TextVarSource) && !Shown(f->TextMinSource) && !Shown(f->LabelMaxSource));
     }
 
+    void automaticWithNoMomentChosenHidesNothing()
+    {
+        auto f = Open(1);
+        Pick(f.get(), "ComboSource", "QEL Variable");
+        f->ComboSource->setCurrentIndex(-1);
+        f->ComboSource_Click();
+        QVERIFY(Shown(f->TextVarSource) && Shown(f->LabelItemVar));
+        QVERIFY(Shown(f->TextMinSource) && Shown(f->LabelMaxSource));
+        Pick(f.get(), "ComboSource", "Begin");
+        QVERIFY(!Shown(f->TextVarSource) && !Shown(f->LabelItemVar) && !Shown(f->TextMinSource));
+    }
+
     void sourceVarMovesBetweenTheTwoValues()
     {
         ConfigureEveryKind();
