@@ -421,8 +421,9 @@ void FormInitial::layoutControls()
     CommandAddScene->setGeometry(20, scenesBottom + 32, 70, 26);
     CommandEdit->setGeometry(92, scenesBottom + 32, 150, 26);
     CommandDelete->setGeometry(20, scenesBottom + 62, 222, 26);
-    CommandShowConfig->setGeometry(left2, h - belowRules + 16, 160, 26);
-    CommandBots->setGeometry(left2 + 170, h - belowRules + 16, 160, 26);
+    // Below the rule list: two rows of buttons in its margin.
+    CommandShowConfig->setGeometry(left2, h - belowRules + 4, 160, 26);
+    CommandBots->setGeometry(left2 + 170, h - belowRules + 4, 160, 26);
 
     Label5->setGeometry(left2, 50, 130, 22);
     LabelNumScene->setGeometry(left2 + 130, 50, 50, 22);
@@ -433,7 +434,7 @@ void FormInitial::layoutControls()
     TextSearched->setGeometry(left2 + 90, 126, 200, 24);
     CommandAdd->setGeometry(left2 + 300, 125, 130, 26);
     for (int i = 0; i < CommandTargetsFilt.size(); ++i)
-        CommandTargetsFilt[i]->setGeometry(w - right - (CommandTargetsFilt.size() - i) * 132, h - belowRules + 16, 130, 26);
+        CommandTargetsFilt[i]->setGeometry(left2 + i * 128, h - belowRules + 32, 126, 26);
     ListEvents->setGeometry(left2, 156, w - left2 - right, h - 156 - belowRules);
 
     // Device view.
