@@ -6,6 +6,7 @@
 #include <vector>
 #include <QString>
 #include "check/ModuleCheck.h"
+#include "files/FileTestHelpers.h"
 #include "files/CBotEvent.h"
 #include "model/CArduinoData.h"
 #include "model/CExoData.h"
@@ -45,24 +46,6 @@ inline std::shared_ptr<CEvent> ElbowRule(const QString& remark = QStringLiteral(
     rule->m_MsgOut = std::make_shared<Collection<CAction>>();
     rule->m_MsgOut->Add(MidiNote(0));
     return rule;
-}
-
-inline std::shared_ptr<CScene> AddCleanScene(const QString& name, int parts)
-{
-    auto scene = std::make_shared<CScene>();
-    scene->m_iID = static_cast<qint16>(gScenes.Count());
-    scene->m_strName = name;
-    scene->InitPartList();
-    for (int k = 1; k < parts; ++k) {
-        auto part = std::make_shared<CPart>();
-        part->m_iID = static_cast<qint16>(k);
-        part->m_iScene = scene->m_iID;
-        part->InitEventList();
-        scene->AddPart(part, k + 1);
-    }
-    gScenes.Add(scene);
-    gLastScene = static_cast<qint16>(gScenes.Count() - 1);
-    return scene;
 }
 
 // One suit on COM3, one joystick, two OSC connections, one Arduino on COM4, one
@@ -129,13 +112,13 @@ inline void BuildCleanPerformance()
 
     gScenes.Clear();
     gLastScene = -1;
-    auto intro = AddCleanScene(QStringLiteral("INTRO"), 1);
+    auto intro = AddTestScene(QStringLiteral("INTRO"), 1);
     intro->m_strRemarks = QStringLiteral("House lights down");
     intro->m_strMovie(0) = QStringLiteral("intro.swf");
     intro->PartList.Item(1)->m_strName = QStringLiteral("Start");
     intro->PartList.Item(1)->AddAudioEvent(ElbowRule(), 1);
     intro->PartList.Item(1)->AddAudioEvent(ElbowRule(QStringLiteral("Second")), 2);
-    auto finale = AddCleanScene(QStringLiteral("FINALE"), 2);
+    auto finale = AddTestScene(QStringLiteral("FINALE"), 2);
     finale->m_strMovie(0) = QStringLiteral("finale.swf");
     finale->PartList.Item(1)->AddAudioEvent(ElbowRule(QStringLiteral("Bow")), 1);
     finale->PartList.Item(2)->AddAudioEvent(ElbowRule(QStringLiteral("Curtain")), 1);

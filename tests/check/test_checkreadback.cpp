@@ -100,7 +100,7 @@ private:
     {
         gScenes.Clear();
         gLastScene = -1;
-        auto scene = AddCleanScene(QStringLiteral("ONE"), 1);
+        auto scene = AddTestScene(QStringLiteral("ONE"), 1);
         ClearGlobalEvents();
         auto copy = std::make_shared<CEvent>();
         CopyEvent(*copy, rule);
